@@ -1,0 +1,33 @@
+# make run, make test: everything from a bare Debian 12 machine. PRESET is debug, release or asan.
+PRESET ?= debug
+BUILD := build/$(PRESET)
+JOBS := $(shell nproc)
+
+.PHONY: setup build run test bench format lint clean
+
+setup:
+	@scripts/install-packages
+
+build: setup
+	cmake --preset $(PRESET) > $(PRESET)-configure.log 2>&1 || { cat $(PRESET)-configure.log; exit 1; }
+	@rm -f $(PRESET)-configure.log
+	cmake --build --preset $(PRESET) -j $(JOBS)
+
+run: build
+	@scripts/run-sample $(BUILD)
+
+test: build
+	QT_QPA_PLATFORM=offscreen ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+bench: setup
+	$(MAKE) build PRESET=release
+	@echo "no benchmark yet"
+
+format:
+	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+lint: build
+	git ls-files '*.cpp' | xargs clang-tidy -p $(BUILD) --quiet
+
+clean:
+	rm -rf build out

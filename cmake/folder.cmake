@@ -1,0 +1,15 @@
+# A folder is a target: every source file that stands in it, and what it may include from.
+#
+# panel_folder(NAME [SHARED] LINK targets...)
+function(panel_folder name)
+  cmake_parse_arguments(ARG "SHARED" "" "LINK" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h)
+  set(kind STATIC)
+  if(ARG_SHARED)
+    set(kind SHARED)
+  endif()
+  add_library(${name} ${kind} ${sources})
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${ARG_LINK})
+endfunction()

@@ -1,0 +1,3 @@
+#include "platform/views/check_box_view.h"
+
+CheckBoxView::CheckBoxView(QWidget *parent) : TitledButton(parent) {}

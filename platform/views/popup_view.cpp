@@ -1,0 +1,90 @@
+#include "platform/views/popup_view.h"
+
+#include "platform/views/accessibility.h"
+
+#include <QStandardItemModel>
+#include <QWheelEvent>
+
+PopupView::PopupView(QWidget *parent) : QComboBox(parent) {
+    views::installAccessibility();
+    setFocusPolicy(Qt::StrongFocus); // the wheel doesn't give focus
+    connect(this, &QComboBox::activated, this, &PopupView::activate);
+}
+
+void PopupView::removeAllItems() {
+    clear();
+    m_shown = currentIndex();
+}
+
+void PopupView::addItemWithTitle(const QString &title) {
+    insertItemWithTitle(title, count());
+}
+
+void PopupView::insertItemWithTitle(const QString &title, int index) {
+    insertItem(index < 0 || index > count() ? count() : index, title);
+    m_shown = currentIndex();
+}
+
+QString PopupView::itemTitle(int index) const {
+    return itemText(index);
+}
+
+QString PopupView::itemRepresentedObject(int index) const {
+    return itemData(index, Qt::UserRole).toString();
+}
+
+void PopupView::setItemRepresentedObject(int index, const QString &object) {
+    setItemData(index, object, Qt::UserRole);
+}
+
+bool PopupView::isItemEnabled(int index) const {
+    return index >= 0 && index < count() &&
+           model()->flags(model()->index(index, modelColumn())).testFlag(Qt::ItemIsEnabled);
+}
+
+void PopupView::setItemEnabled(int index, bool enabled) {
+    auto *items = qobject_cast<QStandardItemModel *>(model());
+    if (QStandardItem *item = items ? items->item(index, modelColumn()) : nullptr)
+        item->setEnabled(enabled);
+}
+
+void PopupView::selectItemAtIndex(int index) {
+    if (index < -1 || index >= count())
+        return;
+    setCurrentIndex(index);
+    m_shown = index;
+}
+
+bool PopupView::chooseItem(int index) {
+    if (!views::isUsable(this) || !isItemEnabled(index))
+        return false;
+    m_shown = currentIndex();
+    setCurrentIndex(index);
+    emit activated(index);
+    return true;
+}
+
+void PopupView::showPopup() {
+    m_shown = currentIndex();
+    QComboBox::showPopup();
+}
+
+void PopupView::keyPressEvent(QKeyEvent *event) {
+    m_shown = currentIndex();
+    QComboBox::keyPressEvent(event);
+}
+
+void PopupView::wheelEvent(QWheelEvent *event) {
+    if (!hasFocus())
+        return event->ignore(); // scrolling past the menu must not change it
+    m_shown = currentIndex();
+    QComboBox::wheelEvent(event);
+}
+
+void PopupView::activate(int index) {
+    if (index == m_shown)
+        return;
+    m_before = m_shown;
+    m_shown = index;
+    sendAction();
+}
