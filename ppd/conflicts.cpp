@@ -1,0 +1,58 @@
+#include "ppd/conflicts.h"
+
+#include "ppd/ppd_query.h"
+
+#include <string>
+
+ForbiddingChoice forbiddingChoice(const ppd_file_t &ppd, x_constraints place) {
+    if (place.groupIndex >= ppd.num_groups)
+        return {};
+    const ppd_group_t &group = ppd.groups[place.groupIndex];
+    if (place.optionIndex >= group.num_options)
+        return {};
+    const ppd_option_t &option = group.options[place.optionIndex];
+    if (place.choiceIndex >= option.num_choices)
+        return {};
+    return {&option, &option.choices[place.choiceIndex]};
+}
+
+bool IsPPDChoiceConflicted(ppd_file_t *ppd, const hash_multimap *table, const char *option,
+                           const char *choice) {
+    if (!ppd || !table || !option || !choice)
+        return false;
+    std::string key(option);
+    key.append(1, ':').append(choice);
+    return table->anyOf(key, [ppd](x_constraints place) {
+        const ForbiddingChoice forbidding = forbiddingChoice(*ppd, place);
+        return forbidding.choice && forbidding.choice->marked;
+    });
+}
+
+int32_t GetUIListFromPPD(ppd_file_t *ppd, const hash_multimap *table, const char *key,
+                         ChoiceRows *list, short *count) {
+    const ppd_option_t *option = ppd && key ? ppdFindOption(ppd, key) : nullptr;
+    if (!list || !option)
+        return 0;
+    unsigned int encoding;
+    GetCFStringEncodingFromPPD(ppd, &encoding);
+    const QString keyword = QString::fromUtf8(option->keyword);
+    list->reserve(list->size() + option->num_choices);
+    for (int i = 0; i < option->num_choices; ++i) {
+        const ppd_choice_t &choice = option->choices[i];
+        const QString name = QString::fromUtf8(choice.choice);
+        const QString label = decodePpdText(choice.text, encoding);
+        const bool conflicted = IsPPDChoiceConflicted(ppd, table, option->keyword, choice.choice);
+        list->append({keyword, name, label.isEmpty() ? name : label,
+                      conflicted ? kConflictTrue : kConflictFalse});
+        if (count)
+            ++*count;
+    }
+    return 0;
+}
+
+bool InitializeValueFromPPD(ppd_file_t *ppd, const hash_multimap *table, ChoiceRows *list,
+                            const char *key) {
+    short count = 0;
+    GetUIListFromPPD(ppd, table, key, list, &count);
+    return true;
+}

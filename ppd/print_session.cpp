@@ -1,0 +1,93 @@
+#include "ppd/print_session.h"
+
+#include <QStringDecoder>
+
+#include <cstring>
+
+namespace {
+
+const QString kPMPPDReference = QStringLiteral("kPMPPDReference");
+constexpr char16_t kFullwidthBrokenBar = u'\uFFE4';
+
+bool isNumber(const QVariant &data) {
+    switch (data.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+PMStatus GetTicketFromSession(PMPrintSession session, const QString &key, void *out) {
+    if (!out)
+        return kPMInvalidParameter;
+    QVariant data;
+    if (PMSessionGetDataFromSession(session, key, &data) != kPMNoError || !isNumber(data))
+        return kPMNoTicketValue;
+    const auto number = static_cast<int32_t>(data.toLongLong());
+    std::memcpy(out, &number, sizeof number);
+    return kPMNoError;
+}
+
+PMStatus GetPPDRefFromSession(PMPrintSession session, ppd_file_t **out) {
+    if (!out)
+        return kPMInvalidParameter;
+    *out = nullptr;
+    QVariant data;
+    const PMStatus status = PMSessionGetDataFromSession(session, kPMPPDReference, &data);
+    if (status != kPMNoError)
+        return status;
+    const QByteArray buffer =
+        data.typeId() == QMetaType::QByteArray ? data.toByteArray() : QByteArray();
+    uint32_t reference = 0;
+    if (buffer.size() >= qsizetype(sizeof reference)) {
+        std::memcpy(&reference, buffer.constData(), sizeof reference);
+        *out = reinterpret_cast<ppd_file_t *>(static_cast<uintptr_t>(reference));
+    }
+    return kPMNoError;
+}
+
+bool CreateKeyWithCurrentPrinter(const QString &key, const QString &printer, QString *out) {
+    if (key.isNull() || printer.isNull() || !out)
+        return false;
+    *out += printer + key;
+    return true;
+}
+
+PMStatus SetPrinterString(PMPrintSession session, QString *out) {
+    PMPrinter printer = nullptr;
+    if (!out || PMSessionGetCurrentPrinter(session, &printer) != kPMNoError)
+        return 1;
+    const QString identifier = PMPrinterGetID(printer);
+    if (identifier.isNull())
+        return 1;
+    *out += identifier;
+    return kPMNoError;
+}
+
+PMStatus SetIntegerValueToSettings(int value, PMPrintSettings settings, const QString &key,
+                                   bool locked) {
+    return SetValueToSettingsWithTicketKeyAndLock(QByteArray::number(value).constData(), settings,
+                                                  key, locked);
+}
+
+PMStatus SetValueToSettingsWithTicketKeyAndLock(const char *value, PMPrintSettings settings,
+                                                const QString &key, bool locked) {
+    if (!value || !settings || key.isNull())
+        return kPMInvalidParameter;
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless |
+                                                     QStringConverter::Flag::ConvertInitialBom);
+    QString text = decoder(QByteArrayView(value));
+    if (decoder.hasError())
+        return kPMOutOfMemory;
+    if (text.isNull())
+        text = QStringLiteral(""); // an empty value is stored, a null one refused
+    text.replace(QChar(kFullwidthBrokenBar), u'|');
+    return PMPrintSettingsSetValue(settings, key, text, locked);
+}
