@@ -1,0 +1,389 @@
+#!/usr/bin/env python3
+"""Writes the sample queues beside this file (PPD 4.3).
+
+The .ppd files are kept under version control, and the build doesn't run this script. Run it
+after a change of the tables below, then `cupstestppd -W none *.ppd`.
+
+A choice is a pair (keyword, label). Each option stands in the order in which its menu shows it.
+Every choice carries harmless PostScript that leaves a trace in the job:
+`userdict /QZColorMode (Color) put`.
+"""
+
+from dataclasses import dataclass, field
+from pathlib import Path
+
+EDITED = "Tue Nov 24 2026"
+VERSION = "1.0"
+
+
+@dataclass
+class Option:
+    keyword: str
+    title: str
+    default: str
+    choices: list
+    order: tuple  # position and section of *OrderDependency
+    kind: str = "PickOne"
+
+
+@dataclass
+class Queue:
+    file: str
+    model: str
+    pc_file: str
+    about: str
+    attributes: list
+    image: list  # options of the group "Image"
+    balance: list  # options of the group "Color balance"
+    constraints: list = field(default_factory=list)  # (remark, [first half, second half] ...)
+
+
+# ---- Options that every queue has ---------------------------------------------------------------
+
+PAGES = [("A4", "A4", 595, 842), ("Letter", "US Letter", 612, 792), ("A3", "A3", 842, 1191)]
+MARGIN = 12
+
+PAPER_SOURCE = Option("InputSlot", "Paper Source", "Auto", [
+    ("Auto", "Automatic"), ("Tray1", "Tray 1"), ("Tray2", "Tray 2"),
+    ("ManualFeed", "Manual Feed")], (11, "AnySetup"))
+DUPLEX = Option("Duplex", "Two-Sided Printing", "None", [
+    ("None", "Off"), ("DuplexNoTumble", "Long Edge"), ("DuplexTumble", "Short Edge")],
+    (12, "AnySetup"))
+
+DUPLEX_CODE = {
+    "None": "<</Duplex false>>setpagedevice",
+    "DuplexNoTumble": "<</Duplex true/Tumble false>>setpagedevice",
+    "DuplexTumble": "<</Duplex true/Tumble true>>setpagedevice",
+}
+
+# ---- Options of the panel -----------------------------------------------------------------------
+
+
+def color_mode(choices=(("Color", "Color"), ("Black", "Black and White"))):
+    """The second choice is black and white in every queue."""
+    return Option("QZColorMode", "Color Mode", choices[0][0], choices, (20, "AnySetup"))
+
+
+def output_mode(default, choices):
+    return Option("QZOutputMode", "Output Mode", default, choices, (22.5, "DocumentSetup"))
+
+
+def brightness(high, low):
+    """Rows run from the brightest down."""
+    rows = [(str(n), f"{n:+d}" if n else "0 (standard)") for n in range(high, low - 1, -1)]
+    return Option("QZBrightness", "Brightness", "0", rows, (35, "PageSetup"))
+
+
+def image_type(default, choices):
+    return Option("QZRGBImageType", "Image Type", default, choices, (40, "DocumentSetup"))
+
+
+def rgb_correction(default, choices):
+    """The panel keeps "None" out of its menu, and sends it where no correction applies."""
+    return Option("QZRGBCorrection", "RGB Color Correction", default, [("None", "Off"), *choices],
+                  (41, "AnySetup"))
+
+
+def cmyk_correction(default, choices):
+    return Option("QZCMYKCorrectionSTD", "CMYK Color Correction", default, choices,
+                  (42, "AnySetup"))
+
+
+def screen(choices):
+    return Option("QZEngineScreen", "Screen", choices[0][0], choices, (60, "PageSetup"))
+
+
+def input_profile(choices):
+    return Option("QZRGBInputProfile", "RGB Input Profile", "sRGB",
+                  [("sRGB", "sRGB"), *choices, ("Off", "Device RGB")], (43, "DocumentSetup"))
+
+
+def gamma(choices):
+    return Option("QZRGBGammaCorrection", "RGB Gamma Correction", "None",
+                  [("None", "Off"), *choices], (44, "DocumentSetup"))
+
+
+def temperature(choices):
+    return Option("QZColorTemperature", "RGB Color Temperature", "None",
+                  [("None", "As in the Profile"), *choices], (45, "DocumentSetup"))
+
+
+def target_paper(choices):
+    return Option("QZCMYKCorrectionTarget", "Target Paper", "None",
+                  [("None", "Paper in the Tray"), *choices], (46, "AnySetup"))
+
+
+def check_box(keyword, title, order, true_first=False):
+    rows = [("False", "Off"), ("True", "On")]
+    return Option(keyword, title, "False", rows[::-1] if true_first else rows, order, "Boolean")
+
+
+def densities():
+    """Twelve options whose keywords are the numbers that the panel shows."""
+    rows = [(str(n), f"{n:+d}" if n else "0") for n in range(3, -4, -1)]
+    place = 50
+    for level in ("Low", "Mid", "High"):
+        for ink in ("Black", "Cyan", "Magenta", "Yellow"):
+            place += 0.25
+            yield Option(f"QZColorDensity{ink}{level}", f"{ink} Density, {level}", "0", rows,
+                         (place, "DocumentSetup" if ink == "Black" else "AnySetup"))
+
+
+def color_balance(true_first=False):
+    return [check_box("QZColorBalanceAdjustment", "Adjust Color Balance", (50, "DocumentSetup"),
+                      true_first), *densities()]
+
+
+# ---- Constraints --------------------------------------------------------------------------------
+
+
+def both_ways(remark, one, other):
+    return (remark, [(one, other), (other, one)])
+
+
+MANUAL_DUPLEX = both_ways("Manual feed takes single sheets.", "*InputSlot ManualFeed", "*Duplex")
+MANUAL_DRAFT = both_ways("Sheets fed by hand are never drafts.",
+                         "*InputSlot ManualFeed", "*QZOutputMode Draft")
+FINE_DUPLEX = both_ways("Fine output needs one side to dry.", "*QZOutputMode Fine", "*Duplex")
+BLACK_PHOTO = both_ways("Photographs are printed in color.",
+                        "*QZColorMode Black", "*QZRGBImageType Photo")
+BLACK_SCREEN = both_ways("The gradation screen is made for color.",
+                         "*QZColorMode Black", "*QZEngineScreen Gradation")
+BALANCE_GAMMA = both_ways("Color balance and gamma shape the same curve.",
+                          "*QZColorBalanceAdjustment", "*QZRGBGammaCorrection")
+PROFILE_TEMPERATURE = both_ways("Device RGB has no white point.",
+                                "*QZRGBInputProfile Off", "*QZColorTemperature")
+DRAFT_PAPER = both_ways("A draft isn't matched to a paper.",
+                        "*QZOutputMode Draft", "*QZCMYKCorrectionTarget")
+TEMPERATURE_PAPER = both_ways("The white point comes from one of the two.",
+                              "*QZColorTemperature", "*QZCMYKCorrectionTarget")
+STOCHASTIC_VIVID = both_ways("The fine-grained screen can't hold vivid colors.",
+                             "*QZEngineScreen Stochastic", "*QZRGBCorrection Saturation")
+OVERPRINT_BLACK = both_ways("Overprint needs the other inks.",
+                            "*QZBlackOverprint True", "*QZColorMode Black")
+INVALIDATE_PROFILE = both_ways("A profile that is set aside can't be asked for.",
+                               "*QZInvalidateColorProfile True", "*QZRGBInputProfile AdobeRGB")
+
+
+def draft_brightness(level):
+    return both_ways("A draft has no ink to spare.", "*QZOutputMode Draft",
+                     f"*QZBrightness {level}")
+
+
+# ---- Queues -------------------------------------------------------------------------------------
+
+DRAFT, NORMAL, FINE = ("Draft", "Draft"), ("Normal", "Normal"), ("Fine", "Fine")
+PERCEPTUAL, SATURATION = ("Perceptual", "Perceptual"), ("Saturation", "Vivid")
+COLORIMETRIC, ABSOLUTE = ("Colorimetric", "Colorimetric"), ("Absolute", "Absolute Colorimetric")
+AUTO, PHOTO = ("Auto", "Automatic"), ("Photo", "Photo")
+GRAPHICS, TEXT, MIXED = ("Graphics", "Graphics"), ("Text", "Text"), ("Mixed", "Text & Graphics")
+GAMMAS = [(f"Gamma{n}", f"Gamma {n / 10}") for n in (10, 14, 18, 22)]
+TEMPERATURES = [("D50", "5000 K"), ("D65", "6500 K"), ("D75", "7500 K"), ("D93", "9300 K")]
+SCREENS = [AUTO, ("Resolution", "Resolution"), ("Gradation", "Gradation"),
+           ("Stochastic", "Stochastic")]
+
+MVO_110 = Queue(
+    "velmora-mvo-110.ppd", "MVO-110", "VLMVO110.PPD",
+    "19 image options, even number of brightness rows, strings table 01.",
+    [("QZXImageOptionsSettings", "Default00-MVO110"), ("QZLocalizableFileIndex", "01")],
+    [color_mode(),
+     output_mode("Normal", [DRAFT, NORMAL, FINE]),
+     brightness(2, -1),
+     image_type("Auto", [AUTO, PHOTO, GRAPHICS, TEXT]),
+     screen(SCREENS[:3]),
+     gamma(GAMMAS[2:])],
+    color_balance(),
+    [MANUAL_DUPLEX, MANUAL_DRAFT, FINE_DUPLEX, BLACK_PHOTO, BLACK_SCREEN, draft_brightness(2),
+     BALANCE_GAMMA])
+
+MVO_220 = Queue(
+    "velmora-mvo-220.ppd", "MVO-220", "VLMVO220.PPD",
+    "22 image options, profile check box, check boxes with True first.",
+    [("QZXImageOptionsSettings", "Default00-MVO220")],
+    [color_mode(),
+     output_mode("Normal", [FINE, NORMAL, DRAFT]),
+     brightness(2, -2),
+     image_type("Mixed", [PHOTO, GRAPHICS, TEXT, MIXED, ("Map", "Map"), ("Drawing", "Drawing")]),
+     rgb_correction("Saturation", [COLORIMETRIC, SATURATION]),
+     screen(SCREENS[:3]),
+     input_profile([("AdobeRGB", "Adobe RGB (1998)")]),
+     gamma(GAMMAS[1:]),
+     temperature(TEMPERATURES[:2]),
+     check_box("QZInvalidateColorProfile", "Ignore Embedded Profiles", (48, "AnySetup"), True)],
+    color_balance(true_first=True),
+    [MANUAL_DUPLEX, MANUAL_DRAFT, FINE_DUPLEX, BLACK_PHOTO, BLACK_SCREEN, draft_brightness(2),
+     BALANCE_GAMMA, PROFILE_TEMPERATURE, INVALIDATE_PROFILE])
+
+MVO_420 = Queue(
+    "velmora-mvo-420.ppd", "MVO-420", "VLMVO420.PPD",
+    "23 image options, mailbox jobs with fine output.",
+    [("QZXImageOptionsSettings", "Default00-MVO420"), ("QZXMailBoxSettings", "AutoFine")],
+    [color_mode((("Color", "Color"), ("Black", "Black and White"), ("TwoColor", "Two Colors"))),
+     output_mode("Normal", [DRAFT, NORMAL, FINE, ("SuperFine", "Super Fine")]),
+     brightness(3, -3),
+     image_type("Auto", [AUTO, PHOTO, ("Portrait", "Portrait"), ("Landscape", "Landscape"),
+                         GRAPHICS, ("Chart", "Chart"), TEXT, MIXED]),
+     rgb_correction("Perceptual", [PERCEPTUAL, SATURATION, COLORIMETRIC]),
+     cmyk_correction("Coated", [("Coated", "Coated Stock"), ("Uncoated", "Uncoated Stock"),
+                                ("Newsprint", "Newsprint"), ("None", "Off")]),
+     screen(SCREENS),
+     input_profile([("AdobeRGB", "Adobe RGB (1998)"), ("Display", "Display")]),
+     gamma(GAMMAS),
+     temperature(TEMPERATURES[:3])],
+    color_balance(),
+    [MANUAL_DUPLEX, MANUAL_DRAFT, FINE_DUPLEX, BLACK_PHOTO, BLACK_SCREEN, draft_brightness(3),
+     BALANCE_GAMMA, PROFILE_TEMPERATURE, STOCHASTIC_VIVID])
+
+MVO_530 = Queue(
+    "velmora-mvo-530.ppd", "MVO-530", "VLMVO530.PPD",
+    "All 24 image options and black overprint.",
+    [("QZXImageOptionsSettings", "Default00-MVO530")],
+    [color_mode(),
+     output_mode("Normal", [DRAFT, NORMAL, FINE, ("SuperFine", "Super Fine")]),
+     brightness(3, -3),
+     image_type("Auto", [AUTO, PHOTO, ("Portrait", "Portrait"), ("Landscape", "Landscape"),
+                         ("Product", "Product"), ("Artwork", "Artwork"), GRAPHICS,
+                         ("Chart", "Chart"), ("Map", "Map"), ("Drawing", "Drawing"), TEXT, MIXED,
+                         ("WebPage", "Web Page")]),
+     rgb_correction("Colorimetric", [SATURATION, PERCEPTUAL, COLORIMETRIC, ABSOLUTE]),
+     cmyk_correction("PressA", [("None", "Off"), ("PressA", "Commercial Press A"),
+                                ("PressB", "Commercial Press B"), ("Newsprint", "Newsprint"),
+                                ("Proof", "Contract Proof")]),
+     screen(SCREENS),
+     input_profile([("AdobeRGB", "Adobe RGB (1998)"), ("Display", "Display"),
+                    ("Scanner", "Scanner")]),
+     gamma(GAMMAS),
+     temperature(TEMPERATURES),
+     target_paper([("Plain", "Plain Paper"), ("Coated", "Coated Paper"),
+                   ("Matte", "Matte Coated Paper")]),
+     check_box("QZBlackOverprint", "Black Overprint", (47, "PageSetup"))],
+    color_balance(),
+    [MANUAL_DUPLEX, MANUAL_DRAFT, FINE_DUPLEX, BLACK_PHOTO, BLACK_SCREEN, draft_brightness(3),
+     BALANCE_GAMMA, PROFILE_TEMPERATURE, STOCHASTIC_VIVID, DRAFT_PAPER, TEMPERATURE_PAPER,
+     OVERPRINT_BLACK])
+
+PLAIN = Queue(
+    "velmora-plain.ppd", "Plain", "VLPLAIN.PPD", "No image options, so no panel.", [], [], [],
+    [MANUAL_DUPLEX])
+
+QUEUES = [MVO_110, MVO_220, MVO_420, MVO_530, PLAIN]
+
+# ---- Text of a file -----------------------------------------------------------------------------
+
+FONTS = ["Courier", "Courier-Bold", "Courier-BoldOblique", "Courier-Oblique", "Helvetica",
+         "Helvetica-Bold", "Helvetica-BoldOblique", "Helvetica-Oblique", "Symbol", "Times-Bold",
+         "Times-BoldItalic", "Times-Italic", "Times-Roman", "ZapfDingbats"]
+
+
+def head(queue):
+    name = f"Velmora {queue.model}"
+    yield '*PPD-Adobe: "4.3"'
+    yield f"*% {name}: {queue.about}"
+    yield f"*% Last Edit Date: {EDITED}"
+    yield '*FormatVersion: "4.3"'
+    yield f'*FileVersion: "{VERSION}"'
+    yield "*LanguageVersion: English"
+    yield "*LanguageEncoding: ISOLatin1"
+    yield f'*PCFileName: "{queue.pc_file}"'
+    yield '*Manufacturer: "QZ"'
+    yield f'*Product: "({name})"'
+    yield f'*ModelName: "{name}"'
+    yield f'*ShortNickName: "{name}"'
+    yield f'*NickName: "{name}, {VERSION}"'
+    yield '*PSVersion: "(3010.000) 0"'
+    yield '*LanguageLevel: "3"'
+    yield "*ColorDevice: True"
+    yield "*DefaultColorSpace: CMYK"
+    yield "*FileSystem: False"
+    yield '*Throughput: "35"'
+    yield "*LandscapeOrientation: Plus90"
+    yield "*TTRasterizer: Type42"
+    if queue.attributes:
+        yield ""
+        yield "*% For the panel"
+        for keyword, value in queue.attributes:
+            yield f'*{keyword}: "{value}"'
+
+
+def constraints(queue):
+    if queue.constraints:
+        yield ""
+        yield "*% What excludes what, each in both directions"
+    for remark, pairs in queue.constraints:
+        yield f"*% {remark}"
+        for first, second in pairs:
+            yield f"*UIConstraints: {first} {second}"
+
+
+def group(keyword, title, options):
+    yield ""
+    yield f"*OpenGroup: {keyword}/{title}"
+    for option in options:
+        yield ""
+        yield from option
+    yield ""
+    yield f"*CloseGroup: {keyword}"
+
+
+def ui(option, code=None):
+    place, section = option.order
+    yield f"*OpenUI *{option.keyword}/{option.title}: {option.kind}"
+    yield f"*OrderDependency: {place:g} {section} *{option.keyword}"
+    yield f"*Default{option.keyword}: {option.default}"
+    for keyword, label in option.choices:
+        text = code[keyword] if code else f"userdict /{option.keyword} ({keyword}) put"
+        yield f'*{option.keyword} {keyword}/{label}: "{text}"'
+    yield f"*CloseUI: *{option.keyword}"
+
+
+def pages():
+    """With a paper source in the job, libcups sends the page's size as *PageRegion or not at all."""
+    for keyword, title in (("PageSize", "Page Size"), ("PageRegion", "Page Region")):
+        option = Option(keyword, title, "A4", [(name, label) for name, label, *_ in PAGES],
+                        (10, "AnySetup"))
+        yield ui(option, {name: f"<</PageSize[{w} {h}]/ImagingBBox null>>setpagedevice"
+                          for name, _, w, h in PAGES})
+    yield ["*RequiresPageRegion All: True"]
+
+
+def dimensions():
+    yield ""
+    yield "*DefaultImageableArea: A4"
+    for name, label, w, h in PAGES:
+        yield f'*ImageableArea {name}/{label}: "{MARGIN} {MARGIN} {w - MARGIN} {h - MARGIN}"'
+    yield "*DefaultPaperDimension: A4"
+    for name, label, w, h in PAGES:
+        yield f'*PaperDimension {name}/{label}: "{w} {h}"'
+
+
+def fonts():
+    yield ""
+    yield "*DefaultFont: Courier"
+    for name in FONTS:
+        encoding = "Special" if name in ("Symbol", "ZapfDingbats") else "Standard"
+        yield f'*Font {name}: {encoding} "(001.000)" {encoding} ROM'
+
+
+def text(queue):
+    yield from head(queue)
+    yield from constraints(queue)
+    yield from group("General", "General", [*pages(), ui(PAPER_SOURCE), ui(DUPLEX, DUPLEX_CODE)])
+    yield from dimensions()
+    if queue.image:
+        yield from group("QZImage", "Image", map(ui, queue.image))
+        yield from group("QZBalance", "Color Balance", map(ui, queue.balance))
+    yield from fonts()
+    yield ""
+    yield f"*% End of {queue.file}"
+
+
+def main():
+    folder = Path(__file__).resolve().parent
+    for queue in QUEUES:
+        lines = list(text(queue))
+        assert max(map(len, lines)) < 255
+        (folder / queue.file).write_text("\n".join(lines) + "\n", encoding="latin-1")
+
+
+if __name__ == "__main__":
+    main()
