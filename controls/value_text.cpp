@@ -1,0 +1,31 @@
+#include "controls/value_text.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+bool integerToText(const CtrlDataBlk *block, char *buffer, int size) {
+    if (!block || !buffer)
+        return false;
+    const int length = std::snprintf(buffer, static_cast<size_t>(size), "%d", block->word());
+    return length > 0 && length < size;
+}
+
+bool integerFromText(const char *text, CtrlDataBlk *block) {
+    if (!text || !block)
+        return false;
+    block->setWord(static_cast<int32_t>(std::strtol(text, nullptr, 10)));
+    return true;
+}
+
+int32_t leadingInteger(const QString &text) {
+    return static_cast<int32_t>(std::strtol(text.toUtf8().constData(), nullptr, 10));
+}
+
+QString cutToBytes(const QString &text, int bytes) {
+    QByteArray utf8 = text.toUtf8();
+    if (utf8.size() <= bytes)
+        return text;
+    while (bytes > 0 && (static_cast<unsigned char>(utf8[bytes]) & 0xC0) == 0x80)
+        --bytes;
+    return QString::fromUtf8(utf8.first(bytes));
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "controls/data_block.h"
+
+#include <QString>
+
+#include <cstdint>
+
+/// The decimal text of an integer value, as preferences and ticket hold it.
+/// @param buffer  receives the text, ended by zero
+/// @param size    the buffer's size in bytes
+/// @return false without a block or a buffer, or if the text doesn't fit
+bool integerToText(const CtrlDataBlk *block, char *buffer, int size);
+
+/// Reads a decimal text into a block, by the number at its start; 0 without one.
+/// @return false without a text or a block
+bool integerFromText(const char *text, CtrlDataBlk *block);
+
+/// The number at a text's start, 0 without one: blanks, a sign, digits.
+int32_t leadingInteger(const QString &text);
+
+/// The longest start of a text that, as UTF-8, has at most `bytes` bytes and ends at a character.
+QString cutToBytes(const QString &text, int bytes);
