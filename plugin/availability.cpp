@@ -1,0 +1,72 @@
+// Questions of controls and windows on the state of the job and of the panel's controls.
+
+#include "controls/popup_family.h"
+#include "controls/value_text.h"
+#include "platform/preferences.h"
+#include "plugin/image_options_pde.h"
+#include "ppd/print_session.h"
+#include "services/system_version.h"
+
+namespace {
+
+/// The stored print type of a job that is saved to a mailbox.
+constexpr int kPrintTypeMailbox = 5;
+
+/// A control's committed value is 1; true while it has none.
+bool isOn(BaseControlKRVImageOptions *control) {
+    const CtrlDataBlk *value = control->GetValueFromControl();
+    return !value || value->word() == 1;
+}
+
+} // namespace
+
+PPDPopupControlKRVImageOptions *ImageOptionsPDEk27::getrgbccPopupList() const {
+    return nullptr;
+}
+
+PPDPopupControlKRVImageOptions *ImageOptionsPDEk27::getcmykccPopupList() const {
+    return CMYKColorCorrectionListCtrl;
+}
+
+BaseControlKRVImageOptions *ImageOptionsPDEk27::getgraphicsadvanceSetRdioCtrl() const {
+    return nullptr;
+}
+
+PPDPopupControlKRVImageOptions *ImageOptionsPDEk27::getcolormodePopupList() const {
+    return colormodePopupListCtrl;
+}
+
+BaseControlKRVImageOptions *ImageOptionsPDEk27::getbrightnessSlider() const {
+    return nullptr;
+}
+
+bool ImageOptionsPDEk27::IsAdvancedSettingAvailable() const {
+    BaseControlKRVImageOptions *radio = getgraphicsadvanceSetRdioCtrl();
+    return radio && isOn(radio);
+}
+
+bool ImageOptionsPDEk27::IsColorModeAvailable() const {
+    PPDPopupControlKRVImageOptions *list = getcolormodePopupList();
+    return list && list->GetUISelectStr() != QLatin1String("Black");
+}
+
+bool ImageOptionsPDEk27::IsColorBalanceAdjustmentAvailable() const {
+    return false;
+}
+
+bool ImageOptionsPDEk27::IsJobTypeMailbox() const {
+    QString key = QLatin1String("");
+    if (!CreateKeyWithCurrentPrinter(
+            QStringLiteral("com.velmora.mvo.printsettings.PrintTypeReference"),
+            GetCurrentPrinterString(), &key))
+        return false;
+    QString value;
+    if (systemVersion() < kSystemVersion1070) {
+        using namespace preferences;
+        value = CFPreferencesCopyValue(key, kCFPreferencesAnyApplication, kCFPreferencesCurrentUser,
+                                       kCFPreferencesCurrentHost);
+    } else if (m_pSettings) {
+        PMPrintSettingsGetValue(m_pSettings, key, &value);
+    }
+    return leadingInteger(value) == kPrintTypeMailbox;
+}

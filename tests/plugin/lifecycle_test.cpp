@@ -1,0 +1,310 @@
+#include "plugin_fixture.h"
+
+#include "controls/button_family.h"
+#include "platform/kernel_release.h"
+#include "platform/preferences.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+/// The main panel, with its sweeps counted.
+class CountingPanel : public ImageOptionsPDEk27 {
+public:
+    void CreatePanel(QWidget *window) override {
+        ++created;
+        ImageOptionsPDEk27::CreatePanel(window);
+    }
+    int32_t SetUIDataToIniData() override {
+        ++initial;
+        return ImageOptionsPDEk27::SetUIDataToIniData();
+    }
+    int32_t UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) override {
+        ++conflicts;
+        return ImageOptionsPDEk27::UpdateConflictsPanelControlFromPPD(ppd);
+    }
+    int32_t SetValueToTicket(PMPrintSettings settings, bool withParam) override {
+        ++writes;
+        return ImageOptionsPDEk27::SetValueToTicket(settings, withParam);
+    }
+    int32_t Open() override {
+        syncWhileOpen = GetPDEStatus();
+        return ImageOptionsPDEk27::Open();
+    }
+
+    int created = 0, initial = 0, conflicts = 0, writes = 0;
+    bool syncWhileOpen = false;
+};
+
+class LifecycleTest : public PluginTest {
+protected:
+    void SetUp() override {
+        PluginTest::SetUp();
+        ppd = openSample("velmora-mvo-530.ppd");
+        ASSERT_TRUE(ppd);
+        host = std::make_shared<TestHost>(ppd.get());
+    }
+    void TearDown() override { setKernelRelease("19.6.0"); }
+    std::unique_ptr<CountingPanel> newPanel() const {
+        auto panel = std::make_unique<CountingPanel>();
+        panel->initWithCallback(host);
+        panel->bFirstInitialzePDE = true;
+        return panel;
+    }
+
+    PpdPtr ppd;
+    std::shared_ptr<TestHost> host;
+};
+
+TEST_F(LifecycleTest, SequencesOfCalls) {
+    struct Row {
+        const char *calls; // k keys, r restore, w willShow, p shouldPrint, s save, i summary
+        int created, initial, conflicts, writes;
+        bool printing, pairOpen, sync;
+    };
+    // A panel that shouldPrint builds stays in the state of being synchronised until it is shown.
+    const Row rows[] = {
+        {"k", 0, 0, 0, 0, false, false, false},     {"ks", 0, 0, 0, 1, true, false, false},
+        {"kr", 1, 1, 0, 0, false, false, false},    {"krr", 1, 1, 1, 0, false, false, false},
+        {"kp", 1, 1, 0, 1, true, true, true},       {"kps", 1, 1, 0, 1, true, false, true},
+        {"kpw", 1, 1, 0, 1, true, true, false},     {"kpps", 1, 1, 0, 2, true, false, true},
+        {"krwss", 1, 1, 0, 2, true, false, false},  {"krwps", 1, 1, 0, 1, true, false, false},
+        {"krwpss", 1, 1, 0, 2, true, false, false}, {"wi", 0, 0, 0, 0, false, false, false},
+    };
+    for (const Row &row : rows) {
+        const auto panel = newPanel();
+        for (const char *call = row.calls; *call; ++call)
+            switch (*call) {
+            case 'k':
+                EXPECT_EQ(panel->supportedPPDOptionKeys().size(), 26);
+                break;
+            case 'r':
+                EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+                break;
+            case 'w':
+                panel->willShow();
+                EXPECT_TRUE(panel->syncWhileOpen);
+                break;
+            case 'p':
+                EXPECT_TRUE(panel->shouldPrint());
+                break;
+            case 's':
+                EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
+                break;
+            case 'i':
+                EXPECT_TRUE(panel->summaryInfo().contains("Summary Display Order"));
+                break;
+            }
+        EXPECT_EQ(panel->created, row.created) << row.calls;
+        EXPECT_EQ(panel->initial, row.initial) << row.calls;
+        EXPECT_EQ(panel->conflicts, row.conflicts) << row.calls;
+        EXPECT_EQ(panel->writes, row.writes) << row.calls;
+        EXPECT_EQ(panel->gbIsPrint, row.printing) << row.calls;
+        EXPECT_EQ(panel->isShouldPrintCalled, row.pairOpen) << row.calls;
+        EXPECT_EQ(panel->GetPDEStatus(), row.sync) << row.calls;
+    }
+}
+
+TEST_F(LifecycleTest, WithoutAPpdALaterRestoreBuilds) {
+    host->ppd = nullptr;
+    const auto panel = newPanel();
+    EXPECT_EQ(panel->supportedPPDOptionKeys().size(), 26);
+    EXPECT_FALSE(panel->Getxppd());
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    EXPECT_TRUE(panel->shouldPrint());
+    EXPECT_EQ(panel->created, 0);
+    EXPECT_EQ(panel->summaryInfo().size(), 1);
+    EXPECT_TRUE(panel->shouldShowHelp());
+    host->ppd = ppd.get();
+    panel->supportedPPDOptionKeys();
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    EXPECT_EQ(panel->created, 1);
+}
+
+TEST_F(LifecycleTest, AShownPanelAndOneNeverShownSendTheSame) {
+    const auto run = [this](bool shown) {
+        ppd = openSample("velmora-mvo-530.ppd");
+        markChoice(ppd.get(), "QZColorMode", "Black");
+        markChoice(ppd.get(), "QZCMYKCorrectionSTD", "Proof");
+        host = std::make_shared<TestHost>(ppd.get());
+        const auto panel = newPanel();
+        panel->supportedPPDOptionKeys();
+        if (shown) {
+            panel->panelView();
+            panel->restoreValuesAndReturnError(nullptr);
+            panel->willShow();
+        }
+        host->calls.clear();
+        panel->shouldPrint();
+        panel->saveValuesAndReturnError(nullptr);
+        EXPECT_TRUE(host->calls.contains(qMakePair(QString("QZColorMode"), QString("Black"))));
+        QStringList marks;
+        for (const char *key : {"QZColorMode", "QZRGBImageType", "QZCMYKCorrectionSTD"})
+            marks.append(QString::fromUtf8(host->marked(key)));
+        for (const auto &entry : host->settings.entries().toStdMap())
+            marks.append(entry.first + entry.second.value);
+        return marks;
+    };
+    const QStringList shown = run(true);
+    EXPECT_EQ(run(false), shown);
+    EXPECT_EQ(shown, QStringList({"Black", "Auto", "Proof"}));
+}
+
+TEST_F(LifecycleTest, ReplacedPpdIsResolvedAgain) {
+    const auto panel = newPanel();
+    panel->supportedPPDOptionKeys();
+    panel->restoreValuesAndReturnError(nullptr);
+    const PpdPtr other = openPpdText(ppdOption("QZColorMode", {"Color", "Black"}, "Black") +
+                                     ppdOption("QZRGBImageType", {"Auto", "Photo"}, "Photo"));
+    host->ppd = other.get();
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    panel->willShow();
+    const int mode = 101, type = 106, cmyk = 108;
+    EXPECT_EQ(panel->GetPanelControl(&mode)->GetValueFromControl()->word(), 2);
+    EXPECT_FALSE(views::isEnabled(panel->GetPanelControl(&type)->GetControlPtr()));
+    EXPECT_TRUE(views::isHidden(panel->GetPanelControl(&cmyk)->GetControlPtr()));
+    EXPECT_EQ(host->marked("QZRGBImageType"), "Photo");
+
+    host->ppd = ppd.get();
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_TRUE(views::isEnabled(panel->GetPanelControl(&type)->GetControlPtr()));
+    EXPECT_FALSE(views::isHidden(panel->GetPanelControl(&cmyk)->GetControlPtr()));
+    EXPECT_EQ(panel->created, 1);
+}
+
+TEST_F(LifecycleTest, NothingOfAReplacedPpdLives) {
+    markChoice(ppd.get(), "QZColorMode", "Black");
+    markChoice(ppd.get(), "QZRGBImageType", "Photo");
+    const auto panel = newPanel();
+    panel->supportedPPDOptionKeys();
+    panel->restoreValuesAndReturnError(nullptr);
+    const int mode = 101, type = 106, title = 206;
+    QWidget *typeView = panel->GetPanelControl(&type)->GetControlPtr();
+    QWidget *titleView = panel->GetPanelControl(&title)->GetControlPtr();
+    const auto colour = [titleView] {
+        return titleView->palette().color(QPalette::Active, QPalette::WindowText);
+    };
+    const QColor dimmed = colour();
+    EXPECT_FALSE(views::isEnabled(typeView));
+
+    // Without the colour mode, and with a default that is no choice.
+    const PpdPtr other = openPpdText("*OpenUI *QZRGBImageType/Kind: PickOne\n"
+                                     "*DefaultQZRGBImageType: Unknown\n"
+                                     "*QZRGBImageType A/A: \"\"\n*QZRGBImageType B/B: \"\"\n"
+                                     "*CloseUI: *QZRGBImageType\n");
+    host->ppd = other.get();
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_TRUE(views::isHidden(panel->GetPanelControl(&mode)->GetControlPtr()));
+    EXPECT_TRUE(views::isEnabled(typeView)) << "a hidden list must not hold others down";
+    EXPECT_TRUE(views::isEnabled(titleView));
+    EXPECT_NE(colour(), dimmed);
+    EXPECT_EQ(panel->GetPanelControl(&type)->GetValueFromControl()->word(), 1);
+}
+
+TEST_F(LifecycleTest, ConstraintTableIsOfThePpdThatIsBuiltOn) {
+    const PpdPtr other = openPpdText(ppdOption("QZColorMode", {"Color", "Black"}, "Black") +
+                                     ppdOption("QZRGBImageType", {"Auto", "Photo"}) +
+                                     "*UIConstraints: *QZColorMode Black *QZRGBImageType Photo\n");
+    const auto panel = newPanel();
+    panel->supportedPPDOptionKeys();
+    host->ppd = other.get();
+    panel->restoreValuesAndReturnError(nullptr);
+    panel->willShow();
+    const int type = 106;
+    auto *list = qobject_cast<PopupView *>(panel->GetPanelControl(&type)->GetControlPtr());
+    EXPECT_TRUE(list->isItemEnabled(0));
+    EXPECT_FALSE(list->isItemEnabled(1));
+}
+
+TEST_F(LifecycleTest, NameKindAndKeys) {
+    Bundle::setLanguages({"de"});
+    EXPECT_EQ(newPanel()->panelName(), "Bildoptionen");
+    Bundle::setLanguages({"en"});
+    const PpdPtr other = openPpdText("*QZLocalizableFileIndex: \"77\"\n");
+    host->ppd = other.get();
+    EXPECT_EQ(newPanel()->panelName(), "no translation");
+    EXPECT_EQ(newPanel()->panelKind(), "com.velmora.k27.pde.ImageOptionsKind");
+    const QStringList keys = newPanel()->supportedPPDOptionKeys();
+    EXPECT_EQ(keys.first(), "QZColorMode");
+    EXPECT_EQ(keys.at(13), "QZColorDensityCyanLow");
+    EXPECT_EQ(keys.at(16), "QZColorDensityBlackMid");
+    EXPECT_EQ(keys.last(), "QZInvalidateColorProfile");
+}
+
+TEST_F(LifecycleTest, HelpPageOfTheProduct) {
+    const auto panel = newPanel();
+    panel->supportedPPDOptionKeys();
+    panel->restoreValuesAndReturnError(nullptr);
+    auto *help = panel->panelView()->findChild<ButtonView *>("helpButton");
+    ASSERT_TRUE(help);
+    GHelpButtonKRV button;
+    button.CreateControlWithHelpName(help, "Graphics.htm");
+    button.CreateControlWithHelpName(help, "Other.htm");
+    EXPECT_EQ(button.helpFileName(), "Graphics.htm");
+    const PpdPtr bare = openPpdText("");
+    for (const auto &[queue, page] :
+         {std::pair{ppd.get(), "Graphics_MVO530.htm"}, {bare.get(), "Graphics.htm"}}) {
+        EXPECT_TRUE(button.InitializeCtrl(nullptr, queue));
+        EXPECT_EQ(button.helpFileName(), page);
+    }
+    EXPECT_FALSE(panel->shouldShowHelp()) << "the panel has shown its own page";
+}
+
+TEST_F(LifecycleTest, PrintTypeTellsAMailboxJob) {
+    const auto panel = newPanel();
+    panel->supportedPPDOptionKeys();
+    EXPECT_FALSE(panel->IsJobTypeMailbox()) << "no printer yet";
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_FALSE(panel->IsJobTypeMailbox()) << "no value";
+    const QString key = QStringLiteral("Queuecom.velmora.mvo.printsettings.PrintTypeReference");
+    for (const auto &[value, mailbox] :
+         {std::pair{"5", true}, {"05", true}, {"5x", true}, {"15", false}, {"", false}}) {
+        host->settings.set(key, QString::fromUtf8(value), false);
+        EXPECT_EQ(panel->IsJobTypeMailbox(), mailbox) << value;
+        panel->summaryInfo();
+        EXPECT_EQ(panel->getPrintTypeMailbox(), mailbox) << value;
+    }
+    setKernelRelease("10.8.0");
+    using namespace preferences;
+    CFPreferencesSetValue(key, "5", kCFPreferencesAnyApplication, kCFPreferencesCurrentUser,
+                          kCFPreferencesCurrentHost);
+    EXPECT_TRUE(panel->IsJobTypeMailbox()) << "older systems keep it in the preferences";
+    CFPreferencesSetValue(key, QString(), kCFPreferencesAnyApplication, kCFPreferencesCurrentUser,
+                          kCFPreferencesCurrentHost);
+}
+
+TEST_F(LifecycleTest, ColourIsAvailableUnlessBlackIsCommitted) {
+    const auto panel = newPanel();
+    EXPECT_FALSE(panel->IsColorModeAvailable()) << "no controls";
+    EXPECT_FALSE(panel->IsAdvancedSettingAvailable());
+    EXPECT_FALSE(panel->IsColorBalanceAdjustmentAvailable());
+    panel->supportedPPDOptionKeys();
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_TRUE(panel->IsColorModeAvailable());
+    const int mode = 101;
+    auto *list = qobject_cast<PopupView *>(panel->GetPanelControl(&mode)->GetControlPtr());
+    ASSERT_TRUE(list->chooseItem(1));
+    EXPECT_TRUE(panel->IsColorModeAvailable()) << "chosen, not committed";
+    panel->saveValuesAndReturnError(nullptr);
+    EXPECT_FALSE(panel->IsColorModeAvailable());
+}
+
+TEST_F(LifecycleTest, HostMayDestroyTheViewFirst) {
+    const auto panel = newPanel();
+    panel->supportedPPDOptionKeys();
+    panel->restoreValuesAndReturnError(nullptr);
+    delete panel->panelView();
+    EXPECT_TRUE(panel->shouldPrint());
+    EXPECT_EQ(panel->summaryInfo().size(), 4) << "values stay";
+    // A new view is built anew by the next restore.
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_EQ(panel->created, 2);
+    auto *list = panel->panelView()->findChild<PopupView *>("ColorModeList");
+    EXPECT_EQ(list->numberOfItems(), 2);
+    ASSERT_TRUE(list->chooseItem(1));
+    EXPECT_EQ(host->marked("QZColorMode"), "Black");
+    panel->terminate();
+    EXPECT_EQ(panel->summaryInfo().size(), 1);
+}
+
+} // namespace
