@@ -1,7 +1,10 @@
 // Questions of controls and windows on the state of the job and of the panel's controls.
 
 #include "controls/popup_family.h"
+#include "controls/radio_family.h"
+#include "controls/slider_family.h"
 #include "controls/value_text.h"
+#include "imagewindows/rgb_correction_list.h"
 #include "platform/preferences.h"
 #include "plugin/image_options_pde.h"
 #include "ppd/print_session.h"
@@ -21,7 +24,7 @@ bool isOn(BaseControlKRVImageOptions *control) {
 } // namespace
 
 PPDPopupControlKRVImageOptions *ImageOptionsPDEk27::getrgbccPopupList() const {
-    return nullptr;
+    return RGBColorCorrectionListCtrl;
 }
 
 PPDPopupControlKRVImageOptions *ImageOptionsPDEk27::getcmykccPopupList() const {
@@ -29,7 +32,7 @@ PPDPopupControlKRVImageOptions *ImageOptionsPDEk27::getcmykccPopupList() const {
 }
 
 BaseControlKRVImageOptions *ImageOptionsPDEk27::getgraphicsadvanceSetRdioCtrl() const {
-    return nullptr;
+    return graphicsadvanceSetRdioBtnCtrl;
 }
 
 PPDPopupControlKRVImageOptions *ImageOptionsPDEk27::getcolormodePopupList() const {
@@ -37,7 +40,7 @@ PPDPopupControlKRVImageOptions *ImageOptionsPDEk27::getcolormodePopupList() cons
 }
 
 BaseControlKRVImageOptions *ImageOptionsPDEk27::getbrightnessSlider() const {
-    return nullptr;
+    return brightnessSliderCtrl;
 }
 
 bool ImageOptionsPDEk27::IsAdvancedSettingAvailable() const {

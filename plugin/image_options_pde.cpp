@@ -3,6 +3,7 @@
 #include "plugin/image_options_pde.h"
 
 #include "controls/button_family.h"
+#include "controls/radio_family.h"
 #include "platform/bundle.h"
 #include "platform/log.h"
 #include "platform/pde/pde_plugin_callback.h"

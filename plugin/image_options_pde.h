@@ -15,10 +15,20 @@
 
 class BrightMaxSTextCtrlKRV;
 class BrightMiniSTextCtrlKRV;
+class GColorBalanceButtonKRV;
 class GHelpButtonKRV;
+class GImageSettingsButtonKRV;
+class GOutputModeListCtrlKRV;
 class GPPDListCtrlKRV;
-class PPDStaticTextCtrlKRVImageOptions;
+class GPPDSliderBarControlKRV;
+class GRadioButtonKRV;
+class GRestoreDefaultButtonKRV;
 class PPDPopupControlKRVImageOptions;
+class PPDStaticTextCtrlKRVImageOptions;
+class PluginTypeListCtrlKRV;
+class RGBCorrectionListCtrlKRV;
+class RadioGroupKRVImageOptions;
+class ScreenListCtrlKRV;
 class VersionStringSTextKRVImageOptions;
 
 /// The main panel: what the host print dialog talks to.
@@ -57,6 +67,9 @@ public:
     int32_t Open() override;
     int32_t SetValueFromUIToControl() override;
     int32_t GetSummaryText(QVariantMap *summary, QStringList *orderArray) override;
+
+    /// Hands the product type to the plug-in type list. @return whether there is a type and a list
+    bool SetPrintTypeToPanel();
 
     // Questions of controls and windows.
     bool GetPDEStatus() const override { return gPDESyncSetUI; }
@@ -112,9 +125,17 @@ private:
     void takeLocalizeTable(ppd_file_t *ppd);
     // One row each of CreatePanel's list.
     void addTitle(PPDStaticTextCtrlKRVImageOptions *&field, TextView *view, const char *key);
-    template <class List>
-    void addList(List *&field, PopupView *view, const char *key, PopupIniData *iniData,
-                 const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access, CtrlTag title);
+    template <class Control, class View, class Record>
+    void addBound(Control *&field, const QPointer<View> &view, const char *key, Record *iniData,
+                  const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access, CtrlTag title);
+    void addRadio(GRadioButtonKRV *&field, RadioView *view, RadioButtonIniData *iniData,
+                  const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access);
+    template <class Button>
+    void addButton(Button *&field, ButtonView *view, const char *title);
+    void addPluginTypeList();
+    void addImageSettingsButton(const char *title);
+    void addHelpButton(const char *page);
+    void addVersionText(bool cdfSupport);
     template <class Text>
     void addText(Text *&field, TextView *view, const char *key);
     /// Initialises all controls for a PPD and works out the product type.
@@ -168,10 +189,21 @@ private:
     PPDStaticTextCtrlKRVImageOptions *CMYKColorCorrectionStaticTextCtrl = nullptr;
     PPDStaticTextCtrlKRVImageOptions *ScreenStaticTextCtrl = nullptr;
     GPPDListCtrlKRV *colormodePopupListCtrl = nullptr;
+    GPPDSliderBarControlKRV *brightnessSliderCtrl = nullptr;
     BrightMiniSTextCtrlKRV *brightnessMiniStaticTextCtrl = nullptr;
     BrightMaxSTextCtrlKRV *BrightnessMaxStaticTextCtrl = nullptr;
+    GOutputModeListCtrlKRV *outputmodePopupListCtrl = nullptr;
+    std::unique_ptr<RadioGroupKRVImageOptions> graphicsWndRgrpCtrl;
+    GRadioButtonKRV *graphicsbasicSetRdioBtnCtrl = nullptr;
+    GRadioButtonKRV *graphicsadvanceSetRdioBtnCtrl = nullptr;
     GPPDListCtrlKRV *imageTypePopupListCtrl = nullptr;
+    RGBCorrectionListCtrlKRV *RGBColorCorrectionListCtrl = nullptr;
     GPPDListCtrlKRV *CMYKColorCorrectionListCtrl = nullptr;
+    ScreenListCtrlKRV *screenListConctrl = nullptr;
+    PluginTypeListCtrlKRV *pluginTypeListCtrl = nullptr;
+    GColorBalanceButtonKRV *colorbalanceButtonCtrlPtr = nullptr;
+    GImageSettingsButtonKRV *imageAdjustmentButtonCtrlPtr = nullptr;
+    GRestoreDefaultButtonKRV *restoredefaButtonCtrl = nullptr;
     GHelpButtonKRV *helpButtonCtrl = nullptr;
     VersionStringSTextKRVImageOptions *imageOptionsVerStringSTextCtrlPtr = nullptr;
     PopupWinInPanelKRVImageOptions *colorBalanceWndPtr = nullptr;

@@ -2,7 +2,14 @@
 
 #include "controls/button_family.h"
 #include "controls/popup_family.h"
+#include "controls/radio_family.h"
+#include "controls/slider_family.h"
 #include "controls/static_text_family.h"
+#include "imagewindows/output_mode_list.h"
+#include "imagewindows/plugin_type_list.h"
+#include "imagewindows/rgb_correction_list.h"
+#include "imagewindows/screen_list.h"
+#include "imagewindows/window_buttons.h"
 #include "plugin/image_options_pde.h"
 #include "ppd/ppd_keys.h"
 #include "ppd/ppd_query.h"
@@ -56,12 +63,13 @@ void ImageOptionsPDEk27::addTitle(PPDStaticTextCtrlKRVImageOptions *&field, Text
     adopt(field, std::move(control));
 }
 
-template <class List>
-void ImageOptionsPDEk27::addList(List *&field, PopupView *view, const char *key,
-                                 PopupIniData *iniData, const CtrlConstrainInfo *constrain,
-                                 const CtrlAccessInfo *access, CtrlTag title) {
-    auto control = std::make_unique<List>();
-    control->CreateControl(view, key, iniData, constrain, access, kControlUserCurrent, title);
+template <class Control, class View, class Record>
+void ImageOptionsPDEk27::addBound(Control *&field, const QPointer<View> &view, const char *key,
+                                  Record *iniData, const CtrlConstrainInfo *constrain,
+                                  const CtrlAccessInfo *access, CtrlTag title) {
+    auto control = std::make_unique<Control>();
+    control->CreateControl(view.data(), key, iniData, constrain, access, kControlUserCurrent,
+                           title);
     adopt(field, std::move(control));
 }
 
@@ -70,6 +78,48 @@ void ImageOptionsPDEk27::addText(Text *&field, TextView *view, const char *key) 
     auto control = std::make_unique<Text>();
     control->CreateControl(view, nullptr, nullptr, nullptr, QString(), nullptr, key);
     adopt(field, std::move(control));
+}
+
+void ImageOptionsPDEk27::addRadio(GRadioButtonKRV *&field, RadioView *view,
+                                  RadioButtonIniData *iniData, const CtrlConstrainInfo *constrain,
+                                  const CtrlAccessInfo *access) {
+    auto control = std::make_unique<GRadioButtonKRV>();
+    control->RadioButton(view, iniData, constrain, access, kControlUserCurrent);
+    adopt(field, std::move(control));
+    if (field) // a button that the layout lacks is no member of the group
+        graphicsWndRgrpCtrl->RunTimeAddNewControl(field);
+}
+
+template <class Button>
+void ImageOptionsPDEk27::addButton(Button *&field, ButtonView *view, const char *title) {
+    auto control = std::make_unique<Button>();
+    control->CreateControl(view, title);
+    adopt(field, std::move(control));
+}
+
+void ImageOptionsPDEk27::addPluginTypeList() {
+    auto control = std::make_unique<PluginTypeListCtrlKRV>();
+    control->CreateControl(plugintypeList, &m_records.plugintypeList, nullptr,
+                           &plugintypeListAccessInfo, kControlUserCurrent);
+    adopt(pluginTypeListCtrl, std::move(control));
+}
+
+void ImageOptionsPDEk27::addImageSettingsButton(const char *title) {
+    auto control = std::make_unique<GImageSettingsButtonKRV>();
+    control->GImageSettingsButton(imageAdjustmentButtonCtrl, title);
+    adopt(imageAdjustmentButtonCtrlPtr, std::move(control));
+}
+
+void ImageOptionsPDEk27::addHelpButton(const char *page) {
+    auto control = std::make_unique<GHelpButtonKRV>();
+    control->CreateControlWithHelpName(helpButton, QString::fromUtf8(page));
+    adopt(helpButtonCtrl, std::move(control));
+}
+
+void ImageOptionsPDEk27::addVersionText(bool cdfSupport) {
+    auto control = std::make_unique<VersionStringSTextKRVImageOptions>();
+    control->CreateControl(imageOptionsVerStringSTextCtrl, nullptr, cdfSupport);
+    adopt(imageOptionsVerStringSTextCtrlPtr, std::move(control));
 }
 
 void ImageOptionsPDEk27::CreatePanel(QWidget *window) {
@@ -86,19 +136,26 @@ void ImageOptionsPDEk27::CreatePanel(QWidget *window) {
     addTitle(RGBColorCorrectionStaticTextCtrl, RGBColorCorrectionStaticText, kPPDRGBColorCorrectionKey);
     addTitle(CMYKColorCorrectionStaticTextCtrl, CMYKColorCorrectionStaticText, kPPDCMYKColorCorrectionKey);
     addTitle(ScreenStaticTextCtrl, ScreenStaticText, kPPDScreenKey);
-    addList(colormodePopupListCtrl, ColorModeList, kPPDColorModeKey, &m_records.colorModeList, &colorModeConstrainInfo, &colorModeListAccessInfo, &ColorModeStaticTag);
+    addBound(colormodePopupListCtrl, ColorModeList, kPPDColorModeKey, &m_records.colorModeList, &colorModeConstrainInfo, &colorModeListAccessInfo, &ColorModeStaticTag);
+    addBound(brightnessSliderCtrl, BrightnessSlider, kPPDBrightnessKey, &m_records.brightnessSlider, nullptr, &brightnessSliderAccessInfo, &BrightnessStaticTag);
     addText(brightnessMiniStaticTextCtrl, BrightnessMiniStaticText, "Brightness Mini Value Statics Text");
     addText(BrightnessMaxStaticTextCtrl, BrightnessMaxStaticText, "Brightness Max Value Statics Text");
-    addList(imageTypePopupListCtrl, ImageTypeList, kPPDImageTypeKey, &m_records.imagetypeList, &imagetypeConstrainInfo, &imagetypeListAccessInfo, &ImageTypeStaticTag);
-    addList(CMYKColorCorrectionListCtrl, CMYKColorCorrectionList, kPPDCMYKColorCorrectionKey, &m_records.cmykcolorcorrectionList, nullptr, &cmykcolorcorrectionListAccessInfo, &CMYKColorCorrectionTag);
+    addBound(outputmodePopupListCtrl, OutputModeList, kPPDOutputModeKey, &m_records.outputmodeList, &outputmodeConstrainInfo, &outputmodeListAccessInfo, &OutputModeStaticTag);
+    graphicsWndRgrpCtrl = std::make_unique<RadioGroupKRVImageOptions>(); // has no view, isn't swept
+    graphicsWndRgrpCtrl->RadioGroup();
+    addRadio(graphicsbasicSetRdioBtnCtrl, graphicsbasicSetRdioBtn, &m_records.basicsettingRdio, &basicsettingRdioCnstrnInfoPtr, &basicsettingRdioAcssInfo);
+    addRadio(graphicsadvanceSetRdioBtnCtrl, graphicsadvanceSetRdioBtn, &m_records.advancedsettingRdio, &advancedsettingRdioCnstrnInfoPtr, &advancedsettingRdioAcssInfo);
+    addBound(imageTypePopupListCtrl, ImageTypeList, kPPDImageTypeKey, &m_records.imagetypeList, &imagetypeConstrainInfo, &imagetypeListAccessInfo, &ImageTypeStaticTag);
+    addBound(RGBColorCorrectionListCtrl, RGBColorCorrectionList, kPPDRGBColorCorrectionKey, &m_records.rgbcolorcorrectionList, &rgbcolorcorrectionConstrainInfo, &rgbcolorcorrectionListAccessInfo, &RGBColorCorrectionTag);
+    addBound(CMYKColorCorrectionListCtrl, CMYKColorCorrectionList, kPPDCMYKColorCorrectionKey, &m_records.cmykcolorcorrectionList, nullptr, &cmykcolorcorrectionListAccessInfo, &CMYKColorCorrectionTag);
+    addBound(screenListConctrl, ScreenList, kPPDScreenKey, &m_records.screenList, nullptr, &screenListAccessInfo, &ScreenStaticTag);
+    addPluginTypeList();
+    addButton(colorbalanceButtonCtrlPtr, colorbalanceButtonCtrl, "Color Balance Button Text");
+    addImageSettingsButton("Image Setting Button Text");
+    addButton(restoredefaButtonCtrl, restoredefaButton, "Restore Default Button Text");
+    addHelpButton("Graphics.htm");
+    addVersionText(cdfSupport);
     // clang-format on
-
-    auto help = std::make_unique<GHelpButtonKRV>();
-    help->CreateControlWithHelpName(helpButton, QStringLiteral("Graphics.htm"));
-    adopt(helpButtonCtrl, std::move(help));
-    auto version = std::make_unique<VersionStringSTextKRVImageOptions>();
-    version->CreateControl(imageOptionsVerStringSTextCtrl, nullptr, cdfSupport);
-    adopt(imageOptionsVerStringSTextCtrlPtr, std::move(version));
 
     isPrintTypeSavetoMailbox = false;
 }
@@ -111,5 +168,16 @@ int32_t ImageOptionsPDEk27::bindControls(const Bundle *bundle, ppd_file_t *ppd) 
     CPPDChecker::Instance()->Init();
     if (const int32_t status = BasePrintPanelKRVImageOptions::InitializeUserPane(bundle, ppd))
         return status;
-    return CPPDChecker::Instance()->RunCheck() ? 0 : 1;
+    if (!CPPDChecker::Instance()->RunCheck())
+        return 1;
+    SetPrintTypeToPanel();
+    return 0;
+}
+
+bool ImageOptionsPDEk27::SetPrintTypeToPanel() {
+    const int type = CPPDChecker::Instance()->productType;
+    if (!pluginTypeListCtrl || type < 1)
+        return false;
+    pluginTypeListCtrl->SetPluginType(type);
+    return true;
 }

@@ -1,0 +1,274 @@
+#include "controls/check_box_family.h"
+
+#include "controls/value_text.h"
+#include "platform/views/check_box_view.h"
+#include "ppd/product_type.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+/// A summary text passes through a buffer of 24 bytes.
+constexpr int kSummaryTextBytes = 23;
+
+const QString kChoiceTrue = QStringLiteral("True");
+const QString kChoiceFalse = QStringLiteral("False");
+
+} // namespace
+
+void CheckBoxKRVImageOptions::CheckBox(CheckBoxView *view, CheckBoxIniData *iniData,
+                                       const CtrlConstrainInfo *constrain,
+                                       const CtrlAccessInfo *access, const QString &user) {
+    CreateControl(view);
+    setRecords(constrain, access, user);
+    checkboxctrlIniDataPtr = iniData;
+    ctrlDataSize = CtrlDataBlk::kWordSize;
+}
+
+CheckBoxView *CheckBoxKRVImageOptions::box() const {
+    return qobject_cast<CheckBoxView *>(ControlPtr.data());
+}
+
+std::optional<int32_t> CheckBoxKRVImageOptions::shownState() const {
+    const CheckBoxView *view = box();
+    return view ? std::optional(view->intValue()) : std::nullopt;
+}
+
+bool CheckBoxKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    BaseControlKRVImageOptions::InitializeCtrl(bundle, ppd);
+    if (!InitializeTitle(bundle))
+        return false;
+    allocateBlocks(CtrlDataBlk::kWordSize);
+    return true;
+}
+
+bool CheckBoxKRVImageOptions::ReInitializeCtrl(const Bundle *bundle, ppd_file_t *) {
+    return InitializeTitle(bundle);
+}
+
+bool CheckBoxKRVImageOptions::InitializeTitle(const Bundle *bundle) {
+    if (!checkboxctrlIniDataPtr)
+        return true;
+    if (!bundle)
+        return false;
+    if (CheckBoxView *view = box())
+        view->setTitle(localized(bundle, checkboxctrlIniDataPtr->titleKey));
+    return true;
+}
+
+bool CheckBoxKRVImageOptions::SetControlValueToUI() {
+    CheckBoxView *view = box();
+    if (!ctrlDataBlkPtr || !view)
+        return false;
+    view->setIntValue(ctrlDataBlkPtr->word());
+    return true;
+}
+
+bool CheckBoxKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
+    CheckBoxView *view = box();
+    if (!value || !views::isEnabled(view))
+        return false;
+    int32_t state;
+    std::memcpy(&state, value, sizeof state);
+    view->setIntValue(state);
+    return true;
+}
+
+CtrlDataBlk *CheckBoxKRVImageOptions::GetValueFromUI() {
+    const std::optional<int32_t> shown = shownState();
+    if (!ctrlUIDataBlkPtr || !shown)
+        return nullptr;
+    ctrlUIDataBlkPtr->setWord(*shown);
+    return ctrlUIDataBlkPtr.get();
+}
+
+bool CheckBoxKRVImageOptions::GetValueToPreset() {
+    const std::optional<int32_t> value = presetNumber();
+    if (!value || !ctrlDataBlkPtr)
+        return false;
+    ctrlDataBlkPtr->setWord(*value);
+    return true;
+}
+
+const void *CheckBoxKRVImageOptions::GetDefaultDataBlk() {
+    return checkboxctrlIniDataPtr ? &checkboxctrlIniDataPtr->defaultValue : nullptr;
+}
+
+const void *CheckBoxKRVImageOptions::GetIniDataBlk() {
+    return checkboxctrlIniDataPtr ? &checkboxctrlIniDataPtr->iniValue : nullptr;
+}
+
+int32_t CheckBoxKRVImageOptions::DoControlUpdateConstrain() {
+    if (!ctrlConstrainControlArray || !ctrlConstrainControlArray->updateTable || !ctrlUIDataBlkPtr)
+        return 0;
+    TwoStateControl::DoControlUpdateConstrain();
+    return 1;
+}
+
+bool CheckBoxKRVImageOptions::SimulationUIEventHandler() {
+    BaseControlKRVImageOptions::SimulationUIEventHandler();
+    GetValueFromUI();
+    return true;
+}
+
+void PPDCheckBoxKRVImageOptions::PPDCheckBox(CheckBoxView *view, const char *ppdKey,
+                                             CheckBoxIniData *iniData,
+                                             const CtrlConstrainInfo *constrain,
+                                             const CtrlAccessInfo *access, const QString &user) {
+    CheckBox(view, iniData, constrain, access, user);
+    m_ppd = PpdBinding{.kPPDMainKey = ppdKey};
+}
+
+bool PPDCheckBoxKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    m_ppd.takeTitle(ppd);
+    const bool titled = InitializeTitle(bundle);
+    if (m_ppd.rebuild(ppd, ctrlParentPanelPtr)) {
+        int32_t value = 0;
+        if (GetDefaultValueFromPPD(m_ppd.defaultChoice(ppd), &value) && checkboxctrlIniDataPtr)
+            checkboxctrlIniDataPtr->defaultValue = static_cast<uint32_t>(value);
+    }
+    if (titled)
+        allocateBlocks(CtrlDataBlk::kWordSize);
+    bindOption(ppd, m_ppd.kPPDMainKey);
+    return true;
+}
+
+bool PPDCheckBoxKRVImageOptions::InitializeTitle(const Bundle *) {
+    if (m_ppd.titleTextRef.isNull())
+        return false;
+    if (CheckBoxView *view = box())
+        view->setTitle(m_ppd.titleTextRef);
+    return true;
+}
+
+bool PPDCheckBoxKRVImageOptions::GetDefaultValueFromPPD(const QString &choice, int32_t *value) {
+    *value = choice == kChoiceTrue ? 1 : 0;
+    return !choice.isNull();
+}
+
+bool PPDCheckBoxKRVImageOptions::SetControlValueToUI() {
+    const std::optional<int32_t> shown = shownState();
+    if (!ctrlDataBlkPtr || !shown)
+        return false;
+    if (*shown != ctrlDataBlkPtr->word())
+        valueDidChange = true;
+    return CheckBoxKRVImageOptions::SetControlValueToUI();
+}
+
+int32_t PPDCheckBoxKRVImageOptions::rowOfValue(int32_t value) const {
+    const bool falseFirst =
+        m_ppd.rowCount() > 0 && m_ppd.ctrlPPDInfoArrayRef[0].choice == kChoiceFalse;
+    return (value != 0) == falseFirst ? 1 : 0;
+}
+
+bool PPDCheckBoxKRVImageOptions::PPDMarkOptionByIndex(ppd_file_t *, int32_t value) {
+    return tellHost(m_ppd.kPPDMainKey,
+                    PpdBinding::choiceAt(m_paPPDChoices.get(), rowOfValue(value)));
+}
+
+bool PPDCheckBoxKRVImageOptions::RestorePPD(ppd_file_t *ppd) {
+    if (!ppd || !m_ppd.kPPDMainKey || !ctrlDataBlkPtr)
+        return false;
+    const int32_t value = ctrlDataBlkPtr->word();
+    return value < 0 || PPDMarkOptionByIndex(ppd, value);
+}
+
+bool PPDCheckBoxKRVImageOptions::SetPPD(ppd_file_t *ppd) {
+    if (!ppd || !m_ppd.kPPDMainKey)
+        return false;
+    const CtrlDataBlk *shown = GetValueFromUI();
+    return shown && (shown->word() < 0 || PPDMarkOptionByIndex(ppd, shown->word()));
+}
+
+// The walks come before the host's answer: those of a refused click stay applied, and its row is
+// counted again by the next change. Since SetPPD has stored the new value by then, the view goes
+// back only in a class whose SetPPD leaves the UI block alone.
+bool PPDCheckBoxKRVImageOptions::UIEventHandler() {
+    const bool walked = CheckBoxKRVImageOptions::UIEventHandler();
+    ppd_file_t *ppd = PpdBinding::currentPpd(ctrlParentPanelPtr);
+    if (!ppd)
+        return walked;
+    if (SetPPD(ppd)) {
+        ctrlParentPanelPtr->UpdateConflictsPanelControlFromPPD(ppd);
+        valueDidChange = true;
+    } else if (CheckBoxView *view = box(); view && ctrlUIDataBlkPtr) {
+        view->setIntValue(std::max(ctrlUIDataBlkPtr->word(), 0));
+    }
+    return walked;
+}
+
+bool PPDCheckBoxKRVImageOptions::SetValueToTicket(PMPrintSettings, bool) {
+    return true;
+}
+
+bool PPDCheckBoxKRVImageOptions::BaseSetValueToTicket(PMPrintSettings settings, bool withParam) {
+    return BaseControlKRVImageOptions::SetValueToTicket(settings, withParam);
+}
+
+bool PPDCheckBoxKRVImageOptions::GetValueToPreset() {
+    if (m_ppd.presetIndex(m_ptPPDOptions, ctrlParentPanelPtr) < 0)
+        return false;
+    const QString marked = m_ppd.markedChoice(ctrlParentPanelPtr);
+    if (marked.isNull())
+        return true;
+    if (!tellHost(m_ppd.kPPDMainKey, marked) || !ctrlDataBlkPtr)
+        return false;
+    ctrlDataBlkPtr->setWord(marked == kChoiceTrue ? 1 : 0);
+    return true;
+}
+
+int32_t PPDCheckBoxKRVImageOptions::Open() {
+    ppd_file_t *ppd = PpdBinding::currentPpd(ctrlParentPanelPtr);
+    if (!ppd)
+        return 0;
+    UpdateConflictsPanelControlFromPPD(ppd);
+    GetValueToPreset();
+    SetControlValueToUI();
+    SimulationUIEventHandler();
+    return 0;
+}
+
+bool PPDCheckBoxKRVImageOptions::SetDefaultValueToUI() {
+    if (!CheckBoxKRVImageOptions::SetDefaultValueToUI() || !ctrlParentPanelPtr)
+        return false;
+    ppd_file_t *ppd = ctrlParentPanelPtr->GetCurrentPPD();
+    return !ppd || SetPPD(ppd);
+}
+
+int32_t PPDCheckBoxKRVImageOptions::GetSummaryText(QVariantMap *summary, QStringList *orderArray) {
+    if (!ctrlDataBlkPtr)
+        return 0;
+    const int32_t row = rowOfValue(ctrlDataBlkPtr->word());
+    if (row < m_ppd.rowCount())
+        m_ppd.addSummaryRow(cutToBytes(m_ppd.ctrlPPDInfoArrayRef[row].label, kSummaryTextBytes),
+                            summary, orderArray);
+    return 0;
+}
+
+// The value is the index here, and the order of the choices plays no part, unlike where the box
+// marks the option: a queue that lists "True" first gets the other choice at this point.
+bool GBasePPDCheckBoxKRV::SetValueToTicket(PMPrintSettings, bool) {
+    if (!ctrlDataBlkPtr || !ctrlParentPanelPtr || !valueDidChange)
+        return false;
+    if (!tellHost(m_ppd.kPPDMainKey,
+                  PpdBinding::choiceAt(m_paPPDChoices.get(), ctrlDataBlkPtr->word())))
+        return false;
+    valueDidChange = false;
+    return true;
+}
+
+bool GCheckBoxKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    if (!GBasePPDCheckBoxKRV::InitializeCtrl(bundle, ppd))
+        return false;
+    return CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, m_ppd.rowCount() > 0);
+}
+
+bool GCheckBoxKRV::SetPPD(ppd_file_t *ppd) {
+    const std::optional<int32_t> shown = shownState();
+    return ppd && m_ppd.kPPDMainKey && shown && PPDMarkOptionByIndex(ppd, *shown);
+}
+
+bool GCheckBoxExtKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    return GBasePPDCheckBoxKRV::InitializeCtrl(bundle, ppd);
+}

@@ -1,0 +1,65 @@
+#include "controls/ppd_binding.h"
+
+#include "controls/value_text.h"
+#include "ppd/conflicts.h"
+#include "ppd/ppd_query.h"
+
+bool PpdBinding::rebuild(ppd_file_t *ppd, const ControlPanel *panel) {
+    ctrlPPDInfoArrayRef.clear();
+    const hash_multimap *table = panel ? panel->Getxppd() : nullptr;
+    if (!ppd || !kPPDMainKey || !table)
+        return false;
+    InitializeValueFromPPD(ppd, table, &ctrlPPDInfoArrayRef, kPPDMainKey);
+    return true;
+}
+
+void PpdBinding::takeTitle(ppd_file_t *ppd) {
+    titleTextRef = QString();
+    if (ppd && kPPDMainKey)
+        GetUITitleFromPPD(ppd, kPPDMainKey, titleTextRef);
+}
+
+QString PpdBinding::defaultChoice(ppd_file_t *ppd) const {
+    QString choice;
+    if (ppd && kPPDMainKey)
+        GetUIDefaultFromPPD(ppd, kPPDMainKey, choice);
+    return choice;
+}
+
+int32_t PpdBinding::find(const QString &choice) const {
+    if (!choice.isNull())
+        for (int32_t i = 0; i < rowCount(); ++i)
+            if (ctrlPPDInfoArrayRef[i].choice == choice)
+                return i;
+    return -1;
+}
+
+int32_t PpdBinding::presetIndex(ppd_option_t *option, const ControlPanel *panel) const {
+    ppd_file_t *ppd = currentPpd(panel);
+    if (!option || !ppd || !kPPDMainKey)
+        return -1;
+    const int32_t index = GetIndexOfMarkedOptionWithKey(option, ppd, kPPDMainKey);
+    return index <= rowCount() ? index : -1;
+}
+
+QString PpdBinding::markedChoice(const ControlPanel *panel) const {
+    ppd_file_t *ppd = currentPpd(panel);
+    const ppd_choice_t *choice =
+        ppd && kPPDMainKey ? ppdFindMarkedChoice(ppd, kPPDMainKey) : nullptr;
+    return choice ? QString::fromUtf8(choice->choice) : QString();
+}
+
+void PpdBinding::addSummaryRow(const QString &text, QVariantMap *summary, QStringList *orderArray,
+                               int titleBytes) const {
+    if (!summary || !orderArray || text.isNull() || titleTextRef.isNull())
+        return;
+    const QString title = titleBytes < 0 ? titleTextRef : cutToBytes(titleTextRef, titleBytes);
+    summary->insert(title, text);
+    orderArray->append(title);
+}
+
+QString PpdBinding::choiceAt(const PDEChoiceArray *choices, int64_t index) {
+    return choices && index >= 0 && static_cast<uint64_t>(index) < choices->size()
+               ? (*choices)[static_cast<size_t>(index)].ppdTitle()
+               : QString();
+}

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "controls/ppd_binding.h"
+
+#include "controls/base_control.h"
+
+class SliderView;
+
+/// A slider that is bound to a PPD option, over the range of its record.
+///
+/// Value: the position, a whole number around 0, in 4-byte blocks. A move marks nothing: the value
+/// leaves when the job is saved.
+class PPDSliderBarControlKRVImageOptions : public BaseControlKRVImageOptions {
+public:
+    /// @param view       the slider, may be null
+    /// @param ppdKey     the option's keyword; outlives the control
+    /// @param iniData    the panel's own copy of the record, borrowed for the control's life
+    /// @param constrain  which controls depend on the value, or null
+    /// @param access     where the value is stored, or null
+    /// @param user       whose preferences
+    void CreateControl(SliderView *view, const char *ppdKey, SliderBarIniData *iniData,
+                       const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access,
+                       const QString &user);
+
+    /// The record's range, rows and option from the PPD, and the blocks. @return true
+    bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
+    /// A value out of range is clamped in the view, silently.
+    bool SetControlValueToUI() override;
+    /// @return false, with nothing set, for a missing value and a disabled view
+    bool SetExternalValueToUI(const void *value, uint32_t size) override;
+    void SetValueFromUIToControl() override;
+    CtrlDataBlk *GetValueFromUI() override;
+    /// Sends nothing: a slider has no ticket entry of its own. @return true
+    bool SetValueToTicket(PMPrintSettings settings, bool withParam) override;
+    CtrlDataBlk *GetValueFromControl() override;
+    bool ConvertFromPreferenceString(const char *text) override;
+    bool ConvertToPreferenceString(char *buffer) override;
+    const void *GetDefaultDataBlk() override;
+    uint32_t GetDefaultDataSize() override;
+    const void *GetIniDataBlk() override;
+    uint32_t GetIniDataSize() override;
+
+protected:
+    SliderView *slider() const;
+    /// View's ends := the record's range.
+    void showRange();
+
+    PpdBinding m_ppd;
+    SliderBarIniData *sliderBarIniDataPtr = nullptr;
+};
+
+/// A slider whose positions are the choices of its option.
+///
+/// The choices run from the highest position to the lowest: row i is position maxValue - i. The
+/// range is half the number of rows on either side of 0. An even number of rows leaves the lowest
+/// position without a row, so that nothing is sent and summarised there; a custom choice, which
+/// libcups adds behind the others, counts as a row and shifts the range.
+class GPPDSliderBarControlKRV : public PPDSliderBarControlKRVImageOptions {
+public:
+    /// @param titleControl  tag of the static text that takes the option's title, or null
+    void CreateControl(SliderView *view, const char *ppdKey, SliderBarIniData *iniData,
+                       const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access,
+                       const QString &user, CtrlTag titleControl);
+
+    /// Range, tick marks, title and default from the PPD, range and default also into the record;
+    /// without the option all stays as it is. Reports to the product detection. @return true
+    bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
+    /// @param value  receives the position of the row with that keyword, 0 without one
+    /// @return whether there is one
+    bool GetDefaultValueFromPPD(const QString &choice, int32_t *value);
+    /// Tells the host the committed position's choice, at every save.
+    /// @return the host's answer; false without block, panel or such a choice
+    bool SetValueToTicket(PMPrintSettings settings, bool withParam) override;
+    /// The label of the committed position under the title; also for a slider that is held down.
+    /// @return 0
+    int32_t GetSummaryText(QVariantMap *summary, QStringList *orderArray) override;
+    /// Mark and view anew, without constraints. Nothing without a panel or its PPD. @return 0
+    int32_t Open() override;
+    /// Data block := the marked choice's position, or the PPD's default one; the host is told.
+    /// @return false without panel, option, mark and default, and on refusal
+    bool GetValueToPreset() override;
+    /// Puts the title, with ":" behind it, into the title control.
+    void SetTitleWithCFStringEx(const QString &title);
+
+    const QString &title() const { return m_ppd.titleTextRef; }
+
+protected:
+    /// The row of a position; it may lie outside the rows.
+    int64_t rowOfPosition(int32_t position) const;
+
+    CtrlTag ctrlIDTitleExPtr = nullptr;
+};

@@ -1,0 +1,273 @@
+#include "controls/stepper_family.h"
+
+#include "controls/text_entry_family.h"
+#include "controls/value_text.h"
+#include "platform/views/stepper_view.h"
+#include "ppd/product_type.h"
+#include "ppd/text_utils.h"
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+/// Summary texts pass through a buffer of 24 bytes.
+constexpr int kSummaryTextBytes = 23;
+
+} // namespace
+
+void LittleArrayKRVImageOptions::LittleArrayControl(StepperView *view, LittleArrayIniData *iniData,
+                                                    const CtrlConstrainInfo *constrain,
+                                                    const CtrlAccessInfo *access,
+                                                    const QString &user, const QString &titleStr) {
+    BaseControlKRVImageOptions::CreateControl(view);
+    setRecords(constrain, access, user);
+    littleArrayIniDataPtr = iniData;
+    ctrlDataSize = CtrlDataBlk::kWordSize;
+    titleTextRef = titleStr;
+    lastValue = iniData ? iniData->defaultValue : 0;
+}
+
+StepperView *LittleArrayKRVImageOptions::stepper() const {
+    return qobject_cast<StepperView *>(ControlPtr.data());
+}
+
+void LittleArrayKRVImageOptions::showValue(int32_t value) {
+    lastValue = value;
+    if (StepperView *view = stepper()) {
+        view->setIntValue(value);
+        lastValue = view->intValue();
+    }
+}
+
+void LittleArrayKRVImageOptions::SetRange(int32_t min, int32_t max) {
+    StepperView *view = stepper();
+    if (!view)
+        return;
+    const int32_t before = view->intValue();
+    view->setMinValue(min);
+    view->setMaxValue(max);
+    if (view->intValue() != before)
+        lastValue = view->intValue();
+}
+
+bool LittleArrayKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    BaseControlKRVImageOptions::InitializeCtrl(bundle, ppd);
+    if (littleArrayIniDataPtr)
+        SetRange(littleArrayIniDataPtr->minValue, littleArrayIniDataPtr->maxValue);
+    allocateBlocks(CtrlDataBlk::kWordSize);
+    return true;
+}
+
+bool LittleArrayKRVImageOptions::SetControlValueToUI() {
+    if (!ctrlDataBlkPtr || !stepper())
+        return false;
+    showValue(ctrlDataBlkPtr->word());
+    return true;
+}
+
+// A held-down stepper takes a value, too, unlike a check box: its number field may be written.
+bool LittleArrayKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
+    if (!value || !stepper())
+        return false;
+    int32_t number;
+    std::memcpy(&number, value, sizeof number);
+    showValue(number);
+    return true;
+}
+
+bool LittleArrayKRVImageOptions::isCommittedInRange() const {
+    return ctrlDataBlkPtr && littleArrayIniDataPtr &&
+           ctrlDataBlkPtr->word() >= littleArrayIniDataPtr->minValue &&
+           ctrlDataBlkPtr->word() <= littleArrayIniDataPtr->maxValue;
+}
+
+bool LittleArrayKRVImageOptions::SetValueToTicket(PMPrintSettings settings, bool withParam) {
+    return isCommittedInRange() &&
+           BaseControlKRVImageOptions::SetValueToTicket(settings, withParam);
+}
+
+bool LittleArrayKRVImageOptions::GetValueToPreset() {
+    const std::optional<int32_t> value = presetNumber();
+    if (!value || !ctrlDataBlkPtr)
+        return false;
+    ctrlDataBlkPtr->setWord(*value);
+    showValue(*value);
+    return true;
+}
+
+bool LittleArrayKRVImageOptions::ToGetSummaryText() {
+    return true;
+}
+
+int32_t LittleArrayKRVImageOptions::GetSummaryText(QVariantMap *summary, QStringList *orderArray) {
+    if (!ToGetSummaryText() || !summary || !orderArray || !ctrlDataBlkPtr || titleTextRef.isNull())
+        return 0;
+    const int value = ctrlDataBlkPtr->word();
+    std::array<char, 256> text{};
+    ConvertIntToFloatStr(&value, text.data(), static_cast<int>(text.size()));
+    summary->insert(titleTextRef, QString::fromUtf8(text.data()));
+    orderArray->append(titleTextRef);
+    return 0;
+}
+
+bool LittleArrayKRVImageOptions::ConvertFromPreferenceString(const char *text) {
+    return integerFromText(text, ctrlDataBlkPtr.get());
+}
+
+bool LittleArrayKRVImageOptions::ConvertToPreferenceString(char *buffer) {
+    return integerToText(ctrlDataBlkPtr.get(), buffer, kPreferenceBufferSize);
+}
+
+bool LittleArrayKRVImageOptions::ConvertToTickectData(char *buffer) {
+    return integerToText(ctrlDataBlkPtr.get(), buffer, kTicketBufferSize);
+}
+
+void LittleArrayKRVImageOptions::SetValueFromUIToControl() {
+    if (ctrlDataBlkPtr && ctrlUIDataBlkPtr && ControlPtr)
+        ctrlDataBlkPtr->setWord(ctrlUIDataBlkPtr->word());
+}
+
+CtrlDataBlk *LittleArrayKRVImageOptions::GetValueFromUI() {
+    if (!ctrlUIDataBlkPtr || !stepper())
+        return nullptr;
+    ctrlUIDataBlkPtr->setWord(stepper()->intValue());
+    return ctrlUIDataBlkPtr.get();
+}
+
+CtrlDataBlk *LittleArrayKRVImageOptions::GetValueFromControl() {
+    return ctrlDataBlkPtr.get();
+}
+
+const void *LittleArrayKRVImageOptions::GetIniDataBlk() {
+    return littleArrayIniDataPtr ? &littleArrayIniDataPtr->iniValue : nullptr;
+}
+
+const void *LittleArrayKRVImageOptions::GetDefaultDataBlk() {
+    return littleArrayIniDataPtr ? &littleArrayIniDataPtr->defaultValue : nullptr;
+}
+
+uint32_t LittleArrayKRVImageOptions::GetDefaultDataSize() {
+    return CtrlDataBlk::kWordSize;
+}
+
+uint32_t LittleArrayKRVImageOptions::GetIniDataSize() {
+    return CtrlDataBlk::kWordSize;
+}
+
+bool LittleArrayKRVImageOptions::SetDefaultValueToUI() {
+    if (littleArrayIniDataPtr)
+        lastValue = littleArrayIniDataPtr->defaultValue;
+    return true;
+}
+
+void PPDLittleArrayControlKRVImageOptions::PPDLittleArrayControl(
+    StepperView *view, LittleArrayIniData *iniData, const char *ppdKey,
+    const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access, const QString &user) {
+    LittleArrayControl(view, iniData, constrain, access, user, QString());
+    binding.kPPDMainKey = ppdKey;
+    lastValue = 0;
+}
+
+bool PPDLittleArrayControlKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    if (!LittleArrayKRVImageOptions::InitializeCtrl(bundle, ppd))
+        return false;
+    binding.rebuild(ppd, ctrlParentPanelPtr);
+    if (binding.rowCount() > 0) {
+        if (littleArrayIniDataPtr)
+            littleArrayIniDataPtr->defaultValue = leadingInteger(binding.defaultChoice(ppd));
+        binding.takeTitle(ppd);
+    }
+    bindOption(ppd, binding.kPPDMainKey);
+    return true;
+}
+
+bool PPDLittleArrayControlKRVImageOptions::GetValueToPreset() {
+    if (!ctrlDataBlkPtr || binding.presetIndex(m_ptPPDOptions, ctrlParentPanelPtr) < 0)
+        return false;
+    ctrlDataBlkPtr->setWord(0);
+    const QString marked = binding.markedChoice(ctrlParentPanelPtr);
+    if (marked.isNull())
+        return true;
+    if (!tellHost(binding.kPPDMainKey, marked))
+        return false;
+    lastValue = leadingInteger(marked);
+    ctrlDataBlkPtr->setWord(lastValue);
+    return true;
+}
+
+int32_t PPDLittleArrayControlKRVImageOptions::Open() {
+    if (PpdBinding::currentPpd(ctrlParentPanelPtr)) {
+        GetValueToPreset();
+        LittleArrayKRVImageOptions::SetControlValueToUI();
+    }
+    return 0;
+}
+
+int32_t PPDLittleArrayControlKRVImageOptions::GetSummaryText(QVariantMap *summary,
+                                                             QStringList *orderArray) {
+    if (!ToGetSummaryText() || !ctrlDataBlkPtr)
+        return 0;
+    for (const ChoiceRow &row : binding.ctrlPPDInfoArrayRef)
+        if (leadingInteger(row.choice) == ctrlDataBlkPtr->word()) {
+            binding.addSummaryRow(cutToBytes(row.label, kSummaryTextBytes), summary, orderArray,
+                                  kSummaryTextBytes);
+            break;
+        }
+    return 0;
+}
+
+void PPDLittleArrayControlKRVImageOptions::RequestControlAction() {
+    if (!stepper())
+        return;
+    const int32_t value = stepper()->intValue();
+    if (value == lastValue) {
+        views::beep();
+        return;
+    }
+    UIEventHandler();
+    lastValue = value;
+}
+
+bool GBasePPDLittleArrowKRV::SetValueToTicket(PMPrintSettings, bool) {
+    if (!isCommittedInRange())
+        return false;
+    const int64_t index = int64_t{littleArrayIniDataPtr->maxValue} - ctrlDataBlkPtr->word();
+    return tellHost(binding.kPPDMainKey, PpdBinding::choiceAt(m_paPPDChoices.get(), index));
+}
+
+bool GLittleArrayControlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    const bool result = GBasePPDLittleArrowKRV::InitializeCtrl(bundle, ppd);
+    CPPDChecker::Instance()->AddCheck(binding.kPPDMainKey, binding.rowCount() > 0);
+    return result;
+}
+
+int32_t GLittleArrayControlKRV::DoControlUpdateConstrain() {
+    const CtrlConstrainTable *table =
+        ctrlConstrainControlArray ? ctrlConstrainControlArray->updateTable : nullptr;
+    const CtrlTagList row = table ? table->row(GetCurrentControlArrayNumber()) : nullptr;
+    if (row && *row && ctrlParentPanelPtr && stepper()) {
+        auto *field = dynamic_cast<GTextEditCtrlKRV *>(ctrlParentPanelPtr->GetPanelControl(*row));
+        if (field && field->GetEditMaxLength() > 0) {
+            std::array<char, 24> text{};
+            const int length = std::snprintf(text.data(), text.size(), "%d", stepper()->intValue());
+            field->SetExternalValueToUI(text.data(), static_cast<uint32_t>(length));
+        }
+    }
+    return GBasePPDLittleArrowKRV::DoControlUpdateConstrain();
+}
+
+bool GLittleArrayControlKRV::SetDefaultValueToUI() {
+    return BaseControlKRVImageOptions::SetDefaultValueToUI();
+}
+
+bool GLittleArrayControlKRV::ToGetSummaryText() {
+    const ControlPanel *main = ctrlParentPanelPtr ? ctrlParentPanelPtr->GetParentWnd() : nullptr;
+    return main && main->IsColorBalanceAdjustmentAvailable() && main->IsColorModeAvailable();
+}
+
+bool GBlackLittleArrayControlKRV::ToGetSummaryText() {
+    const ControlPanel *main = ctrlParentPanelPtr ? ctrlParentPanelPtr->GetParentWnd() : nullptr;
+    return main && main->IsColorBalanceAdjustmentAvailable();
+}

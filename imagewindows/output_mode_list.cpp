@@ -1,0 +1,111 @@
+#include "imagewindows/output_mode_list.h"
+
+#include "controls/value_text.h"
+#include "ppd/ppd_keys.h"
+#include "ppd/ppd_query.h"
+#include "ppd/resource_names.h"
+
+#include <array>
+
+namespace {
+
+/// The mode's keyword begins behind a prefix of the attribute's value.
+constexpr int kMailboxPrefixLength = 4;
+constexpr int kMailboxValueBytes = 255;
+constexpr int kSummaryBytes = 23;
+
+} // namespace
+
+bool GOutputModeListCtrlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    MailboxSetValueIndex = 0;
+    IsMailBoxKeyExist = false;
+    if (!GPPDListCtrlKRV::InitializeCtrl(bundle, ppd))
+        return false;
+    std::array<char, 100> keyword{};
+    if (ppd)
+        FixPPDKeywordAccordingToType(ppd, kQZMailboxSetting, keyword.data());
+    const ppd_attr_t *attribute = ppd ? ppdFindAttr_ALT(ppd, keyword.data(), nullptr) : nullptr;
+    if (!attribute)
+        return true;
+    const QString mode = cutToBytes(QString::fromUtf8(attribute->value).mid(kMailboxPrefixLength),
+                                    kMailboxValueBytes);
+    MailboxSetValueIndex = 1 + FindPPDKeyPairsMatch(ctrlPPDInfoArrayRef.value_or(ChoiceRows()),
+                                                    QString::fromUtf8(kPPDMainKey), mode);
+    IsMailBoxKeyExist = true;
+    return true;
+}
+
+bool GOutputModeListCtrlKRV::isForced() const {
+    return IsMailBoxKeyExist && ctrlParentPanelPtr && ctrlParentPanelPtr->getPrintTypeMailbox();
+}
+
+bool GOutputModeListCtrlKRV::GetValueToPreset() {
+    if (!GPPDListCtrlKRV::GetValueToPreset())
+        return false;
+    if (isForced())
+        SetControlValueToPPDMailboxSetValue();
+    return true;
+}
+
+bool GOutputModeListCtrlKRV::SetControlValueToPPDMailboxSetValue() {
+    if (ctrlDataBlkPtr && ctrlDataBlkPtr->word() != MailboxSetValueIndex) {
+        ctrlDataBlkPtr->setWord(MailboxSetValueIndex);
+        valueDidChange = true;
+    }
+    return true;
+}
+
+bool GOutputModeListCtrlKRV::ToGetSummaryText() {
+    return true;
+}
+
+void GOutputModeListCtrlKRV::SetValueFromUIToControl() {
+    if (!isForced())
+        return GPPDListCtrlKRV::SetValueFromUIToControl();
+    // Restored defaults are shown and marked, so that the host has lost the mailbox mode.
+    if (ctrlUIDataBlkPtr && ctrlUIDataBlkPtr->word() != MailboxSetValueIndex)
+        valueDidChange = true;
+    SetControlValueToPPDMailboxSetValue();
+}
+
+void GOutputModeListCtrlKRV::ResetCFStringEx() {
+    if (BaseControlKRVImageOptions *title = titleControl())
+        title->ResetStatus();
+}
+
+void GOutputModeListCtrlKRV::DisableCFStringEx() {
+    if (BaseControlKRVImageOptions *title = titleControl())
+        title->Disable();
+}
+
+int32_t GOutputModeListCtrlKRV::UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) {
+    GPPDListCtrlKRV::UpdateConflictsPanelControlFromPPD(ppd);
+    if (!IsMailBoxKeyExist)
+        return 0;
+    ResetStatus();
+    ResetCFStringEx();
+    if (isForced()) {
+        Disable();
+        DisableCFStringEx();
+    }
+    return DoSelfUpdate(); // a list whose option is missing was shown by the reset
+}
+
+int32_t GOutputModeListCtrlKRV::GetSummaryText(QVariantMap *summary, QStringList *orderArray) {
+    if (!ToGetSummaryText() || !summary || !orderArray || !ctrlDataBlkPtr || !ctrlPPDInfoArrayRef)
+        return 0;
+    const int32_t row = isForced() ? MailboxSetValueIndex - 1 : committedRow();
+    if (row < 0 || row >= static_cast<int32_t>(ctrlPPDInfoArrayRef->size()))
+        return 0;
+    const QString &label = (*ctrlPPDInfoArrayRef)[row].label;
+    addSummaryRow(label.toUtf8().size() <= kSummaryBytes ? label : QLatin1String(""), summary,
+                  orderArray);
+    return 0;
+}
+
+bool GOutputModeListCtrlKRV::SetDefaultValueToUI() {
+    if (!GPPDListCtrlKRV::SetDefaultValueToUI())
+        return false;
+    GetValueFromUI();
+    return true;
+}

@@ -1,0 +1,120 @@
+#include "imagewindows/popup_window.h"
+
+#include "platform/bundle.h"
+#include "platform/views/modal_window.h"
+#include "platform/views/text_field_view.h"
+#include "ppd/ppd_query.h"
+
+PopupWinInPanelKRVImageOptions::~PopupWinInPanelKRVImageOptions() {
+    endRun();
+}
+
+void PopupWinInPanelKRVImageOptions::PopupWinInPanel(QWidget *window, const QString &winTitle) {
+    CreatePanel(window);
+    winTitleTextRef = winTitle;
+    isActived = false;
+}
+
+int32_t PopupWinInPanelKRVImageOptions::InitializeUserPane(const Bundle *bundle, ppd_file_t *ppd) {
+    if (LocalizeTableName.isNull() && ppd) {
+        const ppd_attr_t *attribute = ppdFindAttr_ALT(ppd, "QZLocalizableFileIndex", nullptr);
+        if (attribute && attribute->value)
+            LocalizeTableName = QStringLiteral("Localizable") + QString::fromUtf8(attribute->value);
+    }
+    InitializeUserPaneTitle(bundle);
+    InitializeUserPaneControl(bundle, ppd);
+    pdeBundleRef = bundle;
+    currentPPD = ppd;
+    SetControlEventHandler();
+    return 0;
+}
+
+int32_t PopupWinInPanelKRVImageOptions::ReInitializeUserPane() {
+    ReInitializeUserPaneControl(pdeBundleRef, currentPPD);
+    ReInitializeUserPaneTitle();
+    SetControlEventHandler();
+    return 0;
+}
+
+int32_t PopupWinInPanelKRVImageOptions::ActivateWindow() {
+    if (!windowRef)
+        return 0;
+    ReInitializeUserPane();
+    SetUIDataToIniData();
+    SetCurrentValueToUI();
+    runModalForWindow();
+    return 0;
+}
+
+// The parent panel's own window is no help here: the panel may have moved into another one since
+// its controls were made, so that one of its views is asked.
+void PopupWinInPanelKRVImageOptions::runModalForWindow() {
+    auto *window = qobject_cast<ModalWindow *>(windowRef.data());
+    if (!window)
+        return;
+    QWidget *view = nullptr;
+    if (const ControlArray *controls = pParentPane ? pParentPane->getCtrlGroupArrayRef() : nullptr)
+        for (size_t i = 0; i < controls->size() && !view; ++i)
+            view = (*controls)[i]->GetControlPtr();
+    window->runModal(view);
+}
+
+int32_t PopupWinInPanelKRVImageOptions::ReleaseWindow() {
+    return 0;
+}
+
+int32_t PopupWinInPanelKRVImageOptions::DeactivateWindow() {
+    endRun();
+    return 0;
+}
+
+void PopupWinInPanelKRVImageOptions::endRun() {
+    if (auto *window = qobject_cast<ModalWindow *>(windowRef.data())) {
+        window->stopModal();
+        window->closeWindow();
+    }
+}
+
+int32_t PopupWinInPanelKRVImageOptions::InitializeUserPaneTitle(const Bundle *bundle) {
+    if (winTitleTextRef.isNull() || !bundle || !windowRef)
+        return 0;
+    windowRef->setWindowTitle(
+        bundle->localizedString(winTitleTextRef, QStringLiteral("no translation")));
+    return 1;
+}
+
+int32_t PopupWinInPanelKRVImageOptions::ReInitializeUserPaneTitle() {
+    return InitializeUserPaneTitle(pdeBundleRef);
+}
+
+int32_t PopupWinInPanelKRVImageOptions::SycValueFromUI() {
+    eachControl([](auto &control) {
+        if (control.GetControlPtr())
+            control.GetValueFromUI();
+    });
+    return 0;
+}
+
+void PopupWinInPanelKRVImageOptions::RestoreMarkedPPD() {}
+
+QString PopupWinInPanelKRVImageOptions::GetCurrentPrinterString() const {
+    return pParentPane ? pParentPane->GetCurrentPrinterString() : QString();
+}
+
+void PopupWinInPanelKRVImageOptions::terminate() {
+    endRun();
+    BasePrintPanelKRVImageOptions::terminate();
+}
+
+// Not the field with the focus alone: one that was hidden or disabled during an edit has lost it.
+void PopupWinInPanelKRVImageOptions::endPendingEdits() {
+    if (windowRef)
+        for (TextFieldView *field : windowRef->findChildren<TextFieldView *>())
+            field->endEditing();
+}
+
+void PopupWinInPanelKRVImageOptions::dropPendingEdits() {
+    if (windowRef)
+        for (TextFieldView *field : windowRef->findChildren<TextFieldView *>())
+            field->dropPendingEdit();
+}

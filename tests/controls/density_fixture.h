@@ -1,0 +1,66 @@
+#pragma once
+
+#include "panel_fixture.h"
+
+#include "controls/stepper_family.h"
+#include "controls/text_entry_family.h"
+#include "platform/views/stepper_view.h"
+#include "platform/views/text_field_view.h"
+#include "ppd/ppd_keys.h"
+
+/// One density of a window: a number field, a stepper and a preview that tell each other.
+class DensityTest : public PanelTest {
+protected:
+    static constexpr int kEdit = 3500, kStepper = 3600, kPreview = 3000;
+
+    static QByteArray density(const QByteArray &defaultChoice) {
+        return ppdOption(kPPDColorDensityCyanLowKey, {"3", "2", "1", "0", "-1", "-2", "-3"},
+                         defaultChoice);
+    }
+    void build(const QByteArray &ppdBody) {
+        open(ppdBody);
+        auto number = std::make_unique<GTextEditCtrlKRV>();
+        edit = number.get();
+        field = view<TextFieldView>(kEdit);
+        edit->CreateControl(field, &editRecord, &fieldInfo, &access, kControlUserCurrent, &filter);
+        panel.RunTimeAddNewControl(std::move(number));
+        recorder(kPreview, "preview");
+        auto arrows = std::make_unique<GLittleArrayControlKRV>();
+        stepper = arrows.get();
+        arrow = view<StepperView>(kStepper);
+        stepper->PPDLittleArrayControl(arrow, &record, kPPDColorDensityCyanLowKey, &stepperInfo,
+                                       &access, kControlUserCurrent);
+        panel.RunTimeAddNewControl(std::move(arrows));
+        start();
+        host->calls.clear();
+        log.clear();
+    }
+    /// Field and stepper show this number, and the arrow moves on from it.
+    void expectBothShow(int number) {
+        EXPECT_EQ(field->stringValue(), QString::number(number));
+        EXPECT_EQ(arrow->intValue(), number);
+        const int beeps = views::beepCount();
+        const int way = number < 3 ? 1 : -1;
+        arrow->stepBy(way);
+        EXPECT_EQ(field->stringValue(), QString::number(number + way));
+        arrow->stepBy(-way);
+        EXPECT_EQ(views::beepCount(), beeps);
+    }
+
+    const CtrlTag fieldRow[3] = {&kStepper, &kPreview, nullptr};
+    const CtrlTag stepperRow[3] = {&kEdit, &kPreview, nullptr};
+    const CtrlTagList fieldRows[1] = {fieldRow}, stepperRows[1] = {stepperRow};
+    const CtrlConstrainTable fieldTable{fieldRows}, stepperTable{stepperRows};
+    const CtrlConstrainInfo fieldInfo{.updateTable = &fieldTable};
+    const CtrlConstrainInfo stepperInfo{.updateTable = &stepperTable};
+    const CtrlAccessInfo access{};
+    const InputFilterData digits{2, {{'-', '-'}, {'0', '3'}}};
+    const TextEditFilterData filter{digits, digits, "Message??"};
+    TextEditIniData editRecord{.minLength = 1, .maxLength = 2};
+    LittleArrayIniData record{.minValue = -3, .maxValue = 3};
+
+    GTextEditCtrlKRV *edit = nullptr;
+    GLittleArrayControlKRV *stepper = nullptr;
+    TextFieldView *field = nullptr;
+    StepperView *arrow = nullptr;
+};
