@@ -1,0 +1,172 @@
+#include "host/cups_server.h"
+
+#include "host/host_error.h"
+
+#include <QElapsedTimer>
+#include <QUrl>
+
+#include <cerrno>
+#include <cstring>
+
+namespace host {
+namespace {
+
+/// RFC 8011, 4.1.4: names of queues travel as a path; these characters never stand in one.
+bool isQueueName(const QString &name) {
+    for (const QChar c : name)
+        if (c <= u' ' || c == u'/' || c == u'#' || c == u'?' || c == u'\x7f')
+            return false;
+    return !name.isEmpty() && name.toUtf8().size() < 128;
+}
+
+QByteArray printerUri(const QString &queue) {
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                     "/printers/%s", queue.toUtf8().constData());
+    return uri;
+}
+
+} // namespace
+
+CupsServer::CupsServer(const CupsDeadlines &deadlines)
+    : m_name(QString::fromLocal8Bit(cupsServer())), m_deadlines(deadlines) {
+    cupsSetPasswordCB2([](const char *, http_t *, const char *, const char *,
+                          void *) -> const char * { return nullptr; },
+                       nullptr);
+    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                              deadlines.connectMs, nullptr));
+    if (!m_http)
+        throw HostError(QStringLiteral("CUPS server ") + m_name,
+                        QStringLiteral("no connection: ") +
+                            QString::fromUtf8(cupsLastErrorString()));
+    // A reply that is late is none: the callback's 0 gives the request up.
+    httpSetTimeout(
+        m_http.get(), deadlines.replySeconds, [](http_t *, void *) { return 0; }, nullptr);
+}
+
+QString CupsServer::failure() const {
+    const int error = httpError(m_http.get());
+    if (error == EWOULDBLOCK || error == ETIMEDOUT)
+        return QStringLiteral("CUPS server %1 gave no answer within %2 seconds")
+            .arg(m_name)
+            .arg(m_deadlines.replySeconds);
+    const QString text = QString::fromUtf8(cupsLastErrorString());
+    return QStringLiteral("CUPS server %1: %2")
+        .arg(m_name, text.isEmpty() ? QString::fromLocal8Bit(std::strerror(error)) : text);
+}
+
+CupsServer::Reply CupsServer::ask(ipp_op_t operation, const QString &queue) {
+    ipp_t *request = ippNewRequest(operation);
+    if (!queue.isNull())
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+                     printerUri(queue).constData());
+    static const char *const wanted[] = {"printer-name", "printer-is-accepting-jobs"};
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", 2, nullptr,
+                  wanted);
+    Reply reply(cupsDoRequest(m_http.get(), request, "/"));
+    if (!reply)
+        throw HostError(queue.isNull() ? QStringLiteral("CUPS") : queue, failure());
+    return reply;
+}
+
+void CupsServer::requireQueue(const QString &queue) {
+    const auto none = [&] {
+        return HostError(queue, QStringLiteral("no such queue on CUPS server ") + m_name);
+    };
+    if (!isQueueName(queue))
+        throw none();
+    const Reply reply = ask(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    if (ippGetStatusCode(reply.get()) == IPP_STATUS_ERROR_NOT_FOUND)
+        throw none();
+    if (ippGetStatusCode(reply.get()) > IPP_STATUS_OK_CONFLICTING)
+        throw HostError(queue, failure());
+}
+
+QStringList CupsServer::queues() {
+    const Reply reply = ask(IPP_OP_CUPS_GET_PRINTERS, {});
+    const ipp_status_t status = ippGetStatusCode(reply.get());
+    if (status > IPP_STATUS_OK_CONFLICTING && status != IPP_STATUS_ERROR_NOT_FOUND)
+        throw HostError(QStringLiteral("CUPS"), failure());
+    QStringList names;
+    for (ipp_attribute_t *name = ippFindAttribute(reply.get(), "printer-name", IPP_TAG_NAME); name;
+         name = ippFindNextAttribute(reply.get(), "printer-name", IPP_TAG_NAME))
+        names.append(QString::fromUtf8(ippGetString(name, 0, nullptr)));
+    return names;
+}
+
+QString CupsServer::defaultQueue() {
+    const Reply reply = ask(IPP_OP_CUPS_GET_DEFAULT, {});
+    ipp_attribute_t *name = ippFindAttribute(reply.get(), "printer-name", IPP_TAG_NAME);
+    if (!name)
+        throw HostError(QStringLiteral("CUPS server ") + m_name,
+                        QStringLiteral("has no default queue"));
+    return QString::fromUtf8(ippGetString(name, 0, nullptr));
+}
+
+QByteArray CupsServer::ppd(const QString &queue) {
+    requireQueue(queue);
+    const QByteArray path = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
+    httpClearFields(m_http.get());
+    if (httpGet(m_http.get(), path.constData()) != 0 &&
+        (httpReconnect2(m_http.get(), m_deadlines.connectMs, nullptr) != 0 ||
+         httpGet(m_http.get(), path.constData()) != 0))
+        throw HostError(queue, failure());
+    http_status_t status;
+    do
+        status = httpUpdate(m_http.get());
+    while (status == HTTP_STATUS_CONTINUE);
+    if (status == HTTP_STATUS_ERROR)
+        throw HostError(queue, failure());
+    if (status != HTTP_STATUS_OK) {
+        httpFlush(m_http.get());
+        throw HostError(queue, status == HTTP_STATUS_NOT_FOUND
+                                   ? QStringLiteral("the queue has no PPD")
+                                   : QStringLiteral("its PPD can't be read: ") +
+                                         QString::fromUtf8(httpStatus(status)));
+    }
+    QByteArray text;
+    char block[16384];
+    QElapsedTimer timer;
+    timer.start();
+    for (ssize_t count; (count = httpRead2(m_http.get(), block, sizeof block)) != 0;) {
+        if (count < 0 || timer.hasExpired(qint64(6000 * m_deadlines.replySeconds)))
+            throw HostError(queue, failure());
+        text.append(block, count);
+    }
+    return text;
+}
+
+int CupsServer::submit(const CupsJob &job) {
+    requireQueue(job.queue);
+    const QByteArray queue = job.queue.toUtf8();
+    cups_option_t *list = nullptr;
+    int count = 0;
+    for (const auto &[name, value] : job.options)
+        count = cupsAddOption(name.toUtf8().constData(), value.toUtf8().constData(), count, &list);
+    const int id =
+        cupsCreateJob(m_http.get(), queue.constData(), job.title.toUtf8().constData(), count, list);
+    cupsFreeOptions(count, list);
+    if (id == 0)
+        throw HostError(job.queue, failure());
+
+    const auto send = [&] {
+        if (cupsStartDocument(m_http.get(), queue.constData(), id, job.title.toUtf8().constData(),
+                              job.format, 1) != HTTP_STATUS_CONTINUE)
+            return false;
+        constexpr qsizetype kBlock = 64 << 10;
+        for (qsizetype at = 0; at < job.document.size(); at += kBlock)
+            if (cupsWriteRequestData(m_http.get(), job.document.constData() + at,
+                                     size_t(qMin(kBlock, job.document.size() - at))) !=
+                HTTP_STATUS_CONTINUE)
+                return false;
+        return cupsFinishDocument(m_http.get(), queue.constData()) <= IPP_STATUS_OK_CONFLICTING;
+    };
+    if (!send()) {
+        const QString reason = failure();
+        cupsCancelJob2(m_http.get(), queue.constData(), id, 0);
+        throw HostError(job.queue, reason);
+    }
+    return id;
+}
+
+} // namespace host

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QPixmap>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class QSaveFile;
+
+namespace host {
+
+/// Reads a whole regular file. A FIFO, device or directory is refused at once and never waited for.
+/// @param limit  the greatest size taken, in bytes
+/// @throw HostError with the system's reason
+QByteArray readRegularFile(const QString &path, qint64 limit);
+
+/// @return whether two names lead to one file that exists
+bool isSameFile(const QString &first, const QString &second);
+
+/// The files that one command writes: all of them appear together, or none does.
+class Outputs {
+public:
+    Outputs();
+    ~Outputs();
+
+    /// Takes a file's content. The file itself, or an older one under its name, is left alone until
+    /// the commit.
+    /// @throw HostError if the name can't be written: no such folder, not a regular file, disk full
+    void add(const QString &path, const QByteArray &content);
+    /// Puts all files in place. @throw HostError
+    void commit();
+
+private:
+    std::vector<std::unique_ptr<QSaveFile>> m_files;
+};
+
+/// A JSON object as indented text with a line end.
+QByteArray jsonText(const QJsonObject &object);
+/// A picture as a PNG file's content.
+QByteArray pngContent(const QPixmap &picture);
+
+} // namespace host

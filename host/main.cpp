@@ -1,0 +1,106 @@
+#include "host/command_line.h"
+#include "host/dialog.h"
+#include "host/drive.h"
+#include "host/host_error.h"
+#include "host/inspect.h"
+#include "host/print.h"
+#include "platform/bundle.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int kBadInput = 2;
+
+void complain(const QString &text) {
+    std::fprintf(stderr, "pde-host: %s\n", text.simplified().toLocal8Bit().constData());
+}
+
+QtMessageHandler formerHandler = nullptr;
+bool starting = true;
+
+/// Keeps Qt's remarks on the display off standard error, where a user's script reads; and turns its
+/// last word, for a display that can't be opened, into an end without a signal.
+void passMessage(QtMsgType type, const QMessageLogContext &context, const QString &text) {
+    if (type == QtFatalMsg && starting) {
+        complain(QStringLiteral("display: can't be opened"));
+        _exit(kBadInput);
+    }
+    if (!starting && !text.startsWith(u"This plugin does not support "))
+        formerHandler(type, context, text);
+}
+
+/// Lets Qt draw without a display where no person looks.
+void choosePlatform(host::Command command) {
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
+    const bool wayland = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (command == host::Command::Dialog) {
+        if (!x11 && !wayland)
+            throw host::HostError(QStringLiteral("display"),
+                                  QStringLiteral("there is none, and the dialog needs one"));
+        return;
+    }
+    QByteArray platforms = "offscreen"; // Qt takes the first that it can open
+    if (x11)
+        platforms.prepend("xcb;");
+    if (wayland)
+        platforms.prepend("wayland;");
+    qputenv("QT_QPA_PLATFORM", platforms);
+}
+
+void run(const host::CommandLine &line) {
+    using host::Command;
+    if (!line.language.isNull())
+        Bundle::setLanguages({line.language});
+    switch (line.command) {
+    case Command::Help:
+        std::fputs(host::usage().toLocal8Bit().constData(), stdout);
+        break;
+    case Command::Dialog:
+        host::dialog(line);
+        break;
+    case Command::Print:
+        host::print(line);
+        break;
+    case Command::Inspect:
+        host::inspect(line);
+        break;
+    case Command::Drive:
+        host::drive(line);
+        break;
+    case Command::List:
+        host::listQueues(line);
+        break;
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    try {
+        QStringList arguments;
+        for (int i = 1; i < argc; ++i)
+            arguments.append(QString::fromLocal8Bit(argv[i]));
+        const host::CommandLine line = host::parseCommandLine(arguments);
+        if (line.command == host::Command::Help) {
+            run(line);
+            return 0;
+        }
+        choosePlatform(line.command);
+        int ownCount = 1; // Qt would take arguments of ours for its own
+        formerHandler = qInstallMessageHandler(passMessage);
+        const QApplication application(ownCount, argv);
+        starting = false;
+        run(line);
+        return 0;
+    } catch (const host::HostError &error) {
+        complain(error.text());
+        return kBadInput;
+    }
+}

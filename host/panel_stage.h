@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/panel_session.h"
+#include "host/ppd_source.h"
+
+#include <memory>
+
+class QBoxLayout;
+class QWidget;
+
+namespace host {
+
+struct CommandLine;
+
+/// All that one panel needs, put together in the order in which it must outlive each other: the
+/// queue's PPD, the host object, a plain window, and the panel itself.
+///
+/// The dialog shows panels in a window of its own; every other command shows them here.
+class PanelStage {
+public:
+    /// Opens the PPD, marks the choices and puts the settings of the command line in.
+    /// @throw HostError
+    PanelStage(const CommandLine &line, PDEPlugin &plugin);
+    /// The same for a PPD that is open already.
+    PanelStage(PpdSource source, PDEPlugin &plugin);
+    ~PanelStage();
+
+    PpdSource &source() { return m_source; }
+    HostCallback &callback() { return *m_callback; }
+    /// The panel of this queue; made anew when the former one was closed.
+    PanelSession &session();
+
+    /// The whole road of a shown panel.
+    /// @return false if the queue has no panel, or that has no layout
+    bool open();
+    /// Closes the panel and its window.
+    void close();
+    bool isOpen() const { return m_session && m_session->isOpen(); }
+    /// The window of the open panel, or null.
+    QWidget *window() const { return m_window.get(); }
+
+private:
+    PDEPlugin &m_plugin;
+    PpdSource m_source;
+    std::shared_ptr<HostCallback> m_callback;
+    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<PanelSession> m_session;
+};
+
+/// Puts a panel's view into a window's layout. A view without a layout of its own keeps its size.
+void placeView(QBoxLayout *layout, QWidget *view);
+
+} // namespace host

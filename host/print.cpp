@@ -1,0 +1,89 @@
+#include "host/print.h"
+
+#include "host/bundle_loader.h"
+#include "host/command_line.h"
+#include "host/cups_server.h"
+#include "host/document.h"
+#include "host/drive_state.h"
+#include "host/files.h"
+#include "host/host_error.h"
+#include "host/panel_stage.h"
+#include "host/ps_job.h"
+
+#include <QFileInfo>
+#include <QWidget>
+
+#include <cstdio>
+
+namespace host {
+namespace {
+
+/// Drives the panel on the asked road; what it shows goes to the outputs.
+void drivePanel(const CommandLine &line, PanelStage &stage, Outputs &outputs) {
+    if (!line.shown) {
+        if (stage.session().hasPanel())
+            stage.session().printUnseen();
+        return;
+    }
+    const bool open = stage.open();
+    if (!line.shot.isNull()) {
+        if (!open)
+            throw HostError(line.shot,
+                            QStringLiteral("the queue has no panel to take a picture of"));
+        outputs.add(line.shot, pngContent(stage.window()->grab()));
+    }
+    if (!line.summary.isNull())
+        outputs.add(line.summary,
+                    jsonText(summaryJson(open ? stage.session().summary() : QVariantMap())));
+    if (open) {
+        stage.session().shouldPrint();
+        stage.session().save();
+    }
+}
+
+/// The file to write, or null for a job that goes to CUPS.
+QString targetFile(const CommandLine &line) {
+    QString target = line.to;
+    if (target.isNull() && line.queue.isNull())
+        target = QFileInfo(line.document).completeBaseName() + QStringLiteral(".ps");
+    if (isSameFile(target, line.document))
+        throw HostError(target,
+                        QStringLiteral("is the document itself; name another file by --to"));
+    return target;
+}
+
+} // namespace
+
+int sendToCups(PanelStage &stage, const Document &document) {
+    CupsJob job;
+    job.queue = stage.source().printer.id;
+    job.title = QFileInfo(document.path).fileName();
+    job.format = document.type == Document::Type::Pdf ? CUPS_FORMAT_PDF : CUPS_FORMAT_POSTSCRIPT;
+    job.document = document.content;
+    job.options = markedChoices(stage.source().ppd.get());
+    const auto &entries = stage.callback().settings().entries();
+    for (auto entry = entries.begin(); entry != entries.end(); ++entry)
+        job.options.append({entry.key(), entry->value});
+    return CupsServer().submit(job);
+}
+
+void print(const CommandLine &line) {
+    const Document document = readDocument(line.document);
+    PDEPlugin *plugin = loadBundle(line.bundle);
+    PanelStage stage(line, *plugin);
+    const QString target = targetFile(line);
+    Outputs outputs;
+    drivePanel(line, stage, outputs);
+    if (!line.ticket.isNull())
+        outputs.add(line.ticket, jsonText(ticketJson(stage.callback().settings())));
+    if (!target.isNull()) {
+        outputs.add(target, writePsJob(stage.source().ppd.get(), toPostScript(document),
+                                       QFileInfo(line.document).fileName()));
+    } else {
+        const int job = sendToCups(stage, document);
+        std::printf("%s-%d\n", stage.source().printer.id.toUtf8().constData(), job);
+    }
+    outputs.commit();
+}
+
+} // namespace host

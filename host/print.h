@@ -1,0 +1,16 @@
+#pragma once
+
+namespace host {
+
+struct CommandLine;
+class PanelStage;
+struct Document;
+
+/// The command "print": one document, unattended, to a file or to CUPS. @throw HostError
+void print(const CommandLine &line);
+
+/// Sends a document to the stage's queue, with the marks and the print settings as the job's
+/// options. @return the job's number @throw HostError
+int sendToCups(PanelStage &stage, const Document &document);
+
+} // namespace host

@@ -1,0 +1,48 @@
+#include "support/ppd_text.h"
+
+#include "host/bundle_loader.h"
+#include "host/dialog.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+template <class View>
+View *find(QWidget *window, const QString &text) {
+    for (View *view : window->findChildren<View *>())
+        if (view->text().remove(u'&') == text)
+            return view;
+    return nullptr;
+}
+
+} // namespace
+
+/// The dialog with the real panel, worked by a person who looks around and then cancels.
+TEST(Dialog, ShowsPanelAndSummaryAndCancels) {
+    host::PanelStage stage(host::openPpdFile(samplePath("velmora-mvo-530.ppd")),
+                           *host::loadBundle(BUNDLE_DIR));
+    bool summaryShown = false;
+    {
+        host::PrintDialog dialog(stage, false, samplePath("sample.ps"));
+        ASSERT_TRUE(find<QLabel>(&dialog, "Printer: velmora-mvo-530"));
+        ASSERT_TRUE(find<QLabel>(&dialog, stage.session().name()));
+        QTimer::singleShot(0, &dialog, [&] {
+            QTimer::singleShot(0, &dialog, [&] {
+                QWidget *window = QApplication::activeModalWidget();
+                summaryShown = window != &dialog && find<QLabel>(window, "Color Mode");
+                window->close();
+            });
+            find<QPushButton>(&dialog, "Summary...")->click();
+            dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
+        });
+        EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+    }
+    EXPECT_TRUE(summaryShown);
+    EXPECT_FALSE(stage.isOpen());
+}
