@@ -41,6 +41,10 @@ void BaseControlKRVImageOptions::setRecords(const CtrlConstrainInfo *constrain,
 }
 
 void BaseControlKRVImageOptions::SetControlPtr(QWidget *view) {
+    // The former view must not call a control that it has lost.
+    auto *former = dynamic_cast<views::ActionSource *>(ControlPtr.data());
+    if (former && ControlPtr != view)
+        former->setAction({});
     ControlPtr = view;
 }
 
@@ -347,10 +351,9 @@ void BaseControlKRVImageOptions::allocateBlocks(uint32_t size) {
 }
 
 QString BaseControlKRVImageOptions::localized(const Bundle *bundle, const char *key) const {
-    const QString fallback = QStringLiteral("no translation");
     return bundle && key
-               ? bundle->localizedString(QString::fromUtf8(key), fallback, LocalizeTableName)
-               : fallback;
+               ? bundle->localizedString(QString::fromUtf8(key), kNoTranslation, LocalizeTableName)
+               : kNoTranslation;
 }
 
 std::optional<int32_t> BaseControlKRVImageOptions::presetNumber() const {

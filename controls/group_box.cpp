@@ -2,6 +2,7 @@
 
 #include "platform/bundle.h"
 #include "platform/views/captioned.h"
+#include "services/bundle_identity.h"
 
 void GroupBoxControlKRVImageOptions::CreateControl(QGroupBox *box, const char *title) {
     ControlPtr = box;
@@ -11,8 +12,8 @@ void GroupBoxControlKRVImageOptions::CreateControl(QGroupBox *box, const char *t
 bool GroupBoxControlKRVImageOptions::InitializeTitle(const Bundle *bundle) {
     if (!bundle || !controlTitleStrRef)
         return false;
-    const QString title = bundle->localizedString(QString::fromUtf8(controlTitleStrRef),
-                                                  QStringLiteral("no translation"));
+    const QString title =
+        bundle->localizedString(QString::fromUtf8(controlTitleStrRef), kNoTranslation);
     if (ControlPtr)
         ControlPtr->setTitle(views::escapeMnemonics(title));
     return true;

@@ -2,16 +2,10 @@
 
 #include "platform/bundle.h"
 #include "platform/views/radio_view.h"
+#include "services/bundle_identity.h"
 #include "services/system_version.h"
 
 #include <cstring>
-
-namespace {
-
-/// From this system version on the view may already be off when its partner goes on.
-constexpr int32_t kVersionWithExclusiveViews = 0x1080;
-
-} // namespace
 
 void RadioButtonKRVImageOptions::RadioButton(RadioView *view, RadioButtonIniData *iniData,
                                              const CtrlConstrainInfo *constrain,
@@ -51,7 +45,7 @@ bool RadioButtonKRVImageOptions::InitializeTitle(const Bundle *bundle) {
         return false;
     if (RadioView *view = button())
         view->setTitle(bundle->localizedString(QString::fromUtf8(radiobuttonIniDataPtr->titleKey),
-                                               QStringLiteral("no translation")));
+                                               kNoTranslation));
     return true;
 }
 
@@ -156,7 +150,7 @@ int32_t RadioButtonKRVImageOptions::Update() {
     int32_t version = 0;
     Gestalt_ALT(kSelectorSysv, &version);
     // Where views may be exclusive, one that is off already still has its constraints to release.
-    if (version < kVersionWithExclusiveViews && shownState().value_or(0) == 0)
+    if (version < kSystemVersion1080 && shownState().value_or(0) == 0)
         return 0;
     if (RadioView *view = button())
         view->setIntValue(0);

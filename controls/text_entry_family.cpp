@@ -82,7 +82,6 @@ int32_t TextEditCtrlKRVImageOptions::OnRawKeyUp(const char *) {
 bool TextEditCtrlKRVImageOptions::SetControlValueToDefault() {
     const void *text = GetDefaultDataBlk();
     if (ctrlDataBlkPtr && text) {
-        ctrlDataBlkPtr->clear();
         ctrlDataBlkPtr->copyFrom(text, GetDefaultDataSize());
         ctrlDataSize = GetDefaultDataSize();
     }
@@ -97,7 +96,6 @@ CtrlDataBlk *TextEditCtrlKRVImageOptions::GetValueFromUI() {
     if (field() && ctrlDataBlkPtr && ctrlUIDataBlkPtr && ctrlDataAccessInfoPtr) {
         const QString text = field()->stringValue();
         const QByteArray utf8 = text.toUtf8();
-        ctrlUIDataBlkPtr->clear();
         ctrlUIDataBlkPtr->copyFrom(utf8.constData(), static_cast<uint32_t>(utf8.size()));
         ctrlDataSize = static_cast<uint32_t>(GetStringLength(text));
     }
@@ -124,7 +122,6 @@ uint32_t TextEditCtrlKRVImageOptions::GetDefaultDataSize() {
 bool TextEditCtrlKRVImageOptions::ConvertFromPreferenceString(const char *text) {
     if (!text || !ctrlDataBlkPtr)
         return false;
-    ctrlDataBlkPtr->clear();
     ctrlDataBlkPtr->copyFrom(text, static_cast<uint32_t>(std::strlen(text)));
     ctrlDataSize =
         static_cast<uint32_t>(GetStringLength(QString::fromUtf8(ctrlDataBlkPtr->text())));

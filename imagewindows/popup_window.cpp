@@ -4,6 +4,7 @@
 #include "platform/views/modal_window.h"
 #include "platform/views/text_field_view.h"
 #include "ppd/ppd_query.h"
+#include "services/bundle_identity.h"
 
 PopupWinInPanelKRVImageOptions::~PopupWinInPanelKRVImageOptions() {
     endRun();
@@ -78,8 +79,7 @@ void PopupWinInPanelKRVImageOptions::endRun() {
 int32_t PopupWinInPanelKRVImageOptions::InitializeUserPaneTitle(const Bundle *bundle) {
     if (winTitleTextRef.isNull() || !bundle || !windowRef)
         return 0;
-    windowRef->setWindowTitle(
-        bundle->localizedString(winTitleTextRef, QStringLiteral("no translation")));
+    windowRef->setWindowTitle(bundle->localizedString(winTitleTextRef, kNoTranslation));
     return 1;
 }
 

@@ -6,6 +6,7 @@
 #include "services/system_version.h"
 
 #include <cstdlib>
+#include <locale>
 #include <string_view>
 
 namespace {
@@ -139,6 +140,7 @@ std::istream &operator>>(std::istream &in, CQuickXPPD &cache) {
 }
 
 std::ostream &operator<<(std::ostream &out, CQuickXPPD &cache) {
+    const std::locale before = out.imbue(std::locale::classic()); // no digits in groups
     for (const x_PDEConstr &section : cache.sections) {
         if (!section.keys)
             break;
@@ -158,5 +160,6 @@ std::ostream &operator<<(std::ostream &out, CQuickXPPD &cache) {
         out << '\n' << std::flush;
     }
     cache.SetFileStamp(out);
+    out.imbue(before);
     return out;
 }

@@ -33,9 +33,9 @@ inline const std::string STRPPDSTAMP = "*% Last Edit Date:";
 ///
 /// The section's name is the base with "Panther" behind it on system version 0x103x and with
 /// "Tiger" on every other.
-/// @param attribute  name of the PPD attribute whose value is the file's path; like the base at
-/// most
-///                   19 bytes of UTF-8
+/// @param attribute  name of the PPD attribute whose value is the file's path
+///
+/// Base and attribute have at most 19 bytes of UTF-8 each.
 /// @return 0 when the file could be opened, also without the section; 1 when the attribute or the
 ///         file is missing, or the path isn't that of a readable regular file. The table then stays
 ///         as it was.

@@ -6,7 +6,6 @@
 #include <QStringEncoder>
 
 #include <algorithm>
-#include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <cstring>

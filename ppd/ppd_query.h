@@ -86,7 +86,6 @@ int getIntFromString(const char *text, unsigned int n);
 int GetPWMiniIntValueFromPPD(ppd_file_t *ppd, const char *key);
 /// @return the first number, with its sign, within the attribute's value; -1 without one
 int GetSorvaniPWMiniIntValueFromPPD(ppd_file_t *ppd, const char *name);
-/// @return the digits among the first 3 bytes of the attribute's value in the PPD's encoding; 0
-/// when
+/// @return the digits among the first 3 bytes of the attribute's value in the PPD's encoding; 0 if
 ///         the attribute is missing or its value doesn't convert into 256 bytes
 int GetMBMaxNumberFromPPD(ppd_file_t *ppd, const char *name);

@@ -147,7 +147,7 @@ CPPDChecker *CPPDChecker::Instance() {
 }
 
 CPPDChecker::CPPDChecker(const char *const *allKeys, const ProductTypeList *list) {
-    for (; *allKeys; ++allKeys)
+    for (; allKeys && *allKeys; ++allKeys)
         checks.emplace(*allKeys, false);
     for (; list->keys; ++list) {
         Pattern pattern = checks;

@@ -6,10 +6,10 @@
 
 #include <memory>
 
-/// "CFBundleIdentifier" of the panel's bundle.
 /// What a look-up gives for a text that the strings table lacks.
 inline const QString kNoTranslation = QStringLiteral("no translation");
 
+/// "CFBundleIdentifier" of the panel's bundle.
 inline constexpr char kBundleIdentifier[] = "com.velmora.k27.pde.ImageOptions";
 
 /// The bundle that the plug-in was initialised with, the first one for the life of the process;

@@ -133,7 +133,7 @@ int32_t GotoHelpPage(const Bundle *bundle, const QString &page, const QString &a
     if (!bundle)
         return kMissing;
     const QString key = QString::fromUtf8(titleKey.toUtf8().left(kTitleKeyBytes));
-    const QString title = bundle->localizedString(key, QStringLiteral("no translation"));
+    const QString title = bundle->localizedString(key, kNoTranslation);
     return title.isNull() ? kMissing : AHGotoPage(title, page, anchor);
 }
 

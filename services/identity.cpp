@@ -73,6 +73,7 @@ bool CheckUserGroups(const char *user, const char *group) {
     const passwd *account = user ? getpwnam(user) : nullptr;
     if (!account) {
         std::fputs("groups: no such user.\n", stderr);
+        endgrent();
         return false;
     }
     const gid_t primary = account->pw_gid;

@@ -66,4 +66,6 @@ int32_t Gestalt_ALT(uint32_t selector, int32_t *out) {
     return 0;
 }
 
-int32_t systemVersion() { return static_cast<int32_t>(currentVersion()); }
+int32_t systemVersion() {
+    return static_cast<int32_t>(currentVersion());
+}

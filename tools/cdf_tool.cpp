@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QStringList>
 #include <QTemporaryFile>
@@ -37,6 +38,13 @@ bool copyWithCarriageReturns(const QString &path, QTemporaryFile *copy) {
 }
 
 int write(const QString &ppdPath, const QString &outPath) {
+    const QFileInfo info(ppdPath);
+    if (!info.exists())
+        return fail(ppdPath, QStringLiteral("no such file"));
+    if (!info.isFile()) // opening a pipe would wait for a writer
+        return fail(ppdPath, QStringLiteral("not a regular file"));
+    if (!info.isReadable())
+        return fail(ppdPath, QStringLiteral("can't be read"));
     const PpdPtr ppd(ppdOpenFile(QFile::encodeName(ppdPath).constData()));
     if (!ppd) {
         int line = 0;

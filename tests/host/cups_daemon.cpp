@@ -7,7 +7,10 @@
 #include <QFile>
 #include <QThread>
 
+#include <csignal>
+
 #include <arpa/inet.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -58,6 +61,8 @@ bool CupsDaemon::start() {
                                     {"PageLog", "page_log"}})
         files += QByteArray(key) + ' ' + root.filePath(path).toLocal8Bit() + '\n';
     const QString conf = writeFile(root.path(), "root/cupsd.conf", configuration);
+    // A test that is killed takes its server along.
+    m_server.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_server.start("cupsd",
                    {"-c", conf, "-s", writeFile(root.path(), "root/files.conf", files), "-f"});
     QElapsedTimer timer;

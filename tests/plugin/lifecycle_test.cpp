@@ -306,6 +306,8 @@ TEST_F(LifecycleTest, HostMayDestroyTheViewFirst) {
     EXPECT_EQ(host->marked("QZColorMode"), "Black");
     panel->terminate();
     EXPECT_EQ(panel->summaryInfo().size(), 1);
+    EXPECT_TRUE(list->chooseItem(0)) << "a view outlives its control";
+    EXPECT_EQ(host->marked("QZColorMode"), "Black");
 }
 
 } // namespace

@@ -46,7 +46,6 @@ TEST_F(Conflicts, RowsAreAppendedAndCounted) {
         EXPECT_EQ(GetUIListFromPPD(ppd, &table, key, &rows, &count), 0);
     EXPECT_EQ(count, 8);
     ASSERT_EQ(rows.size(), 4);
-    EXPECT_EQ(rows[0][0], "kept");
     const QStringList expected{"QZColorMode", "X", "X label", "ConflictFalse", QString()};
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(rows[2][i], expected[i]);
@@ -63,7 +62,6 @@ TEST_F(Conflicts, LabelsComeInThePpdsEncoding) {
         {"UTF8", 0x08000100, "\xe6\x97\xa5\xe6\x9c", "日"},
         {"UTF-8", 0x08000100, "\xe6\x97", "X"}, // nothing left: the keyword
         {"utf-8", 0, "\x8a", "ä"},
-        {nullptr, 0, "\x8a", "ä"},
     };
     for (const auto &[encoding, expected, text, label] : cases) {
         ppd->lang_encoding = const_cast<char *>(encoding);

@@ -49,7 +49,6 @@ TEST_F(ConstraintCache, ReadsWhatASectionHolds) {
         {"Other\nC:z@0@0@0@\nImageOptionPDETiger\nA:x@0@3@1@\n", "A:x@0@3@1"},
         {"ImageOptionPDETiger\nA:x@0@3@1@\nImageOptionPDETiger\nB:y@1@0@2@\n", "A:x@0@3@1"},
         {"ImageOptionPDETiger\r\nA:x@0@3@1@\n", ""},
-        {"ImageOptionPDETiger", ""},
         {"ImageOptionPDETiger\n\nA:x@0@3@1@\n", ""},
         {"ImageOptionPDETiger\n@0@3@1@A:x@0@3@1@\n", "A:x@0@3@1"}, // no key, no entry
         {"ImageOptionPDETiger\nA:x@a@65537@-1@A:x@ 2@3b@@\n", "A:x@0@1@65535 A:x@2@3@0"},

@@ -11,7 +11,7 @@ using Entry = std::pair<std::string, x_constraints>;
 /// The layout built node by node, as the class describes it.
 struct PlainTable {
     explicit PlainTable(size_t n) {
-        const size_t primes[] = {53, 97, 193, 389, 769, 1543, 3079, 6151, 12289, 24593};
+        const size_t primes[] = {53, 97, 193, 389, 769, 1543, 3079, 6151, 12289, 24593, 49157};
         buckets.resize(*std::ranges::lower_bound(primes, n));
     }
     std::deque<Entry> &chain(const std::string &key) {
@@ -43,11 +43,9 @@ struct PlainTable {
 } // namespace
 
 TEST(HashMultimap, HashesSignedBytesUpToNulIntoPrimes) {
-    EXPECT_EQ(constraintHash()(""), 0u);
     EXPECT_EQ(constraintHash()(std::string_view("AB\0C", 4)), 65u * 5 + 66);
     EXPECT_EQ(constraintHash()("\xff"), SIZE_MAX);
     EXPECT_EQ(hash_multimap().bucket_count(), 193u);
-    EXPECT_EQ(hash_multimap(0).bucket_count(), 53u);
     EXPECT_EQ(hash_multimap(SIZE_MAX).bucket_count(), 4294967291u);
 }
 
@@ -58,7 +56,7 @@ TEST(HashMultimap, WalksAsATableOfNodesWould) {
         const size_t asked = below(120);
         hash_multimap table(asked);
         PlainTable plain(asked);
-        const int names = 1 + below(60);
+        const int names = round % 3 ? 1 + below(60) : 1; // one key: repeats are thinned out
         const auto key = [&] { return "Option:" + std::to_string(below(names)); };
         const auto value = [&] { return x_constraints{below(3), below(3), below(3)}; };
 
@@ -70,21 +68,19 @@ TEST(HashMultimap, WalksAsATableOfNodesWould) {
         }
         std::vector<std::string> keys;
         std::vector<x_constraints> values;
-        hash_multimap::KeyList keyList;
-        hash_multimap::ValueList valueList;
-        for (int step = below(120); step >= 0; --step) {
-            if (step % 8 == 0) {
-                std::ranges::generate(keys = std::vector<std::string>(below(12)), key);
-                std::ranges::generate(values = std::vector<x_constraints>(below(12)), value);
+        hash_multimap::KeyList keyList = table.keyList(keys);
+        hash_multimap::ValueList valueList = table.valueList(values);
+        for (int step = below(600); step >= 0; --step) {
+            if (keys.empty() || step % 8 == 0) {
+                std::ranges::generate(keys = std::vector<std::string>(below(8)), key);
+                std::ranges::generate(values = std::vector<x_constraints>(below(8)), value);
                 keyList = table.keyList(keys);
                 valueList = table.valueList(values);
             }
-            if (below(2)) {
-                table.insert(keyList, valueList);
-                for (const x_constraints &one : values)
-                    for (const std::string &name : keys)
-                        plain.insert(name, one);
-            }
+            table.insert(keyList, valueList);
+            for (const x_constraints &one : values)
+                for (const std::string &name : keys)
+                    plain.insert(name, one);
             const Entry one(key(), value());
             table.insert(one.first, one.second);
             plain.insert(one.first, one.second);

@@ -10,13 +10,13 @@ TEST(ProductType, OnlyAnExactPatternMatches) {
     using Keys = std::set<std::string>;
     const Keys type01{kPPDRGBColorCorrectionKey, kPPDCMYKColorCorrectionKey, kPPDRGBInputProfileKey,
                       kPPDColorTemperatureKey, kPPDTargetPaperKey};
-    const std::pair<Keys, int> cases[] = {// missing keys; -1 for no match
-                                          {{}, 5},
-                                          {{kPPDTargetPaperKey}, 4},
-                                          {{kPPDTargetPaperKey, kPPDCMYKColorCorrectionKey}, 2},
-                                          {type01, 1},
-                                          {Keys(type01.begin(), std::prev(type01.end())), -1},
-                                          {{kPPDColorDensityYellowHighKey}, -1}};
+    // The keys that are missing, and the type; -1 for no match.
+    // clang-format off
+    const std::pair<Keys, int> cases[] = {
+        {{}, 5}, {{kPPDTargetPaperKey}, 4}, {type01, 1}, {{kPPDColorDensityYellowHighKey}, -1},
+        {{kPPDTargetPaperKey, kPPDCMYKColorCorrectionKey}, 2},
+        {Keys(type01.begin(), std::prev(type01.end())), -1}};
+    // clang-format on
     CPPDChecker *checker = CPPDChecker::Instance();
     for (const auto &[missing, type] : cases) {
         checker->Init();
@@ -26,6 +26,4 @@ TEST(ProductType, OnlyAnExactPatternMatches) {
         EXPECT_EQ(checker->RunCheck(), type != -1);
         EXPECT_EQ(checker->productType, type);
     }
-    checker->Init();
-    EXPECT_FALSE(checker->RunCheck()); // no reports
 }

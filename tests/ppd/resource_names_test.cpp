@@ -5,11 +5,11 @@
 #include <gtest/gtest.h>
 
 TEST(ResourceNames, PartsOfTheSetting) {
+    // clang-format off
     const std::tuple<const char *, QString, QString> cases[] = {
-        {"Default01-Foo-Bar", "Default01", "Foo-Bar"},
-        {"-Foo", "", "Foo"},
-        {"Default01-", "Default01", ""},
-        {"Default01", "Default01", ""}};
+        {"Default01-Foo-Bar", "Default01", "Foo-Bar"}, {"-Foo", "", "Foo"},
+        {"Default01-", "Default01", ""},               {"Default01", "Default01", ""}};
+    // clang-format on
     for (const auto &[value, layout, help] : cases) {
         EXPECT_EQ(GetAppResourceName(value, 0), layout);
         EXPECT_EQ(GetAppResourceNameNS(value, 1), help);
@@ -25,12 +25,11 @@ TEST(ResourceNames, PartsOfTheSetting) {
 
 TEST(ResourceNames, VendorPrefixTakesTheConstantsCase) {
     const PpdPtr ours = openPpdText({});
+    // clang-format off
     const std::pair<QByteArray, QByteArray> cases[] = {
-        {"qzThing", "QZThing"},
-        {"ABThing", "ABThing"},
-        {"q", "q"},
-        {"", ""},
+        {"qzThing", "QZThing"}, {"ABThing", "ABThing"}, {"q", "q"}, {"", ""},
         {"qz" + QByteArray(200, 'x'), "QZ" + QByteArray(97, 'x')}};
+    // clang-format on
     for (const auto &[keyword, expected] : cases) {
         char out[100] = {};
         FixPPDKeywordAccordingToType(ours.get(), keyword.constData(), out);
