@@ -132,7 +132,8 @@ public:
     /// View := the record's default; the data block stays. @return true
     virtual bool SetDefaultValueToUI();
 
-    // The record's default and its mark for "no old value"; null and 0 without a record.
+    // The record's default and its mark for "no old value"; null without a record. The size is that
+    // of the family's values, 0 for a control without.
     virtual const void *GetDefaultDataBlk();
     virtual uint32_t GetDefaultDataSize();
     virtual const void *GetIniDataBlk();

@@ -35,6 +35,10 @@ bool BaseButtonKRVImageOptions::InitializeTitle(const Bundle *bundle) {
     return true;
 }
 
+void BaseButtonKRVImageOptions::RequestControlAction() {
+    UIEventHandler();
+}
+
 void GHelpButtonKRV::CreateControlWithHelpName(ButtonView *view, const QString &helpName) {
     BaseButtonKRVImageOptions::CreateControl(view);
     if (helpfilename.isNull())

@@ -14,6 +14,9 @@ public:
     bool ReInitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
     /// View := the localised title. @return false without one
     virtual bool InitializeTitle(const Bundle *bundle);
+    /// The event alone: a button has no value to read, and it may be gone when its event returns,
+    /// since that can run a window or an alert.
+    void RequestControlAction() override;
 
 protected:
     const char *controlTitleStrRef = nullptr;

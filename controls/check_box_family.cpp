@@ -128,8 +128,12 @@ bool PPDCheckBoxKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t
         if (GetDefaultValueFromPPD(m_ppd.defaultChoice(ppd), &value) && checkboxctrlIniDataPtr)
             checkboxctrlIniDataPtr->defaultValue = static_cast<uint32_t>(value);
     }
-    if (titled)
+    if (titled) {
         allocateBlocks(CtrlDataBlk::kWordSize);
+    } else { // no value of a former PPD may answer for an option that this one lacks
+        ctrlDataBlkPtr.reset();
+        ctrlUIDataBlkPtr.reset();
+    }
     bindOption(ppd, m_ppd.kPPDMainKey);
     return true;
 }

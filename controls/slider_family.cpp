@@ -114,9 +114,13 @@ void GPPDSliderBarControlKRV::CreateControl(SliderView *view, const char *ppdKey
 bool GPPDSliderBarControlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
     if (!PPDSliderBarControlKRVImageOptions::InitializeCtrl(bundle, ppd))
         return false;
-    if (m_ppd.rowCount() == 0)
-        return CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, false);
+    const bool hadTitle = !m_ppd.titleTextRef.isNull();
     m_ppd.takeTitle(ppd);
+    if (m_ppd.rowCount() == 0) {
+        if (hadTitle) // the title of a former PPD
+            SetTitleWithCFStringEx(QLatin1String(""));
+        return CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, false);
+    }
     SetTitleWithCFStringEx(m_ppd.titleTextRef);
     if (sliderBarIniDataPtr) {
         const int32_t half = m_ppd.rowCount() / 2;
@@ -186,7 +190,7 @@ void GPPDSliderBarControlKRV::SetTitleWithCFStringEx(const QString &title) {
             ? ctrlParentPanelPtr->GetPanelControl(ctrlIDTitleExPtr)
             : nullptr;
     if (control && !title.isNull()) {
-        const QByteArray text = title.toUtf8() + ':';
+        const QByteArray text = title.isEmpty() ? QByteArray("") : title.toUtf8() + ':';
         control->SetExternalValueToUI(text.constData(), static_cast<uint32_t>(text.size()));
     }
 }

@@ -8,7 +8,8 @@ class StepperView;
 /// The small arrows beside a number field.
 ///
 /// Value: the number itself, in 4-byte blocks. The arrows can't move exactly when the view still
-/// shows `lastValue`: so `lastValue` follows the view whenever the program sets it.
+/// shows `lastValue`: so `lastValue` follows the view whenever the program sets it, and
+/// is set ahead of it where the view is about to follow.
 class LittleArrayKRVImageOptions : public BaseControlKRVImageOptions {
 public:
     /// @param view      the arrows, may be null

@@ -26,7 +26,7 @@ protected:
 };
 
 /// The formatter of a number field: an entry that isn't a number of the field's range springs back
-/// to the stepper's number, and each entry moves the stepper.
+/// to the stepper's number, and each entry that is taken moves the stepper.
 class GTextEditFormatterKRV : public TextEditFormatterKRVImageOptions {
 public:
     /// @param brotherContrl  the field's control, which takes the formatter off the field when it

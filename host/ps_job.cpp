@@ -29,7 +29,7 @@ QByteArray written(Write write) {
         return {};
     write(stream);
     fclose(stream);
-    const QByteArray result(text, qsizetype(size));
+    QByteArray result(text, qsizetype(size));
     free(text);
     return result;
 }

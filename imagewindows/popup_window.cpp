@@ -3,11 +3,12 @@
 #include "platform/bundle.h"
 #include "platform/views/modal_window.h"
 #include "platform/views/text_field_view.h"
-#include "ppd/ppd_query.h"
 #include "services/bundle_identity.h"
 
 PopupWinInPanelKRVImageOptions::~PopupWinInPanelKRVImageOptions() {
     endRun();
+    if (pParentPane)
+        pParentPane->forgetWindow(this);
 }
 
 void PopupWinInPanelKRVImageOptions::PopupWinInPanel(QWidget *window, const QString &winTitle) {
@@ -17,11 +18,10 @@ void PopupWinInPanelKRVImageOptions::PopupWinInPanel(QWidget *window, const QStr
 }
 
 int32_t PopupWinInPanelKRVImageOptions::InitializeUserPane(const Bundle *bundle, ppd_file_t *ppd) {
-    if (LocalizeTableName.isNull() && ppd) {
-        const ppd_attr_t *attribute = ppdFindAttr_ALT(ppd, "QZLocalizableFileIndex", nullptr);
-        if (attribute && attribute->value)
-            LocalizeTableName = QStringLiteral("Localizable") + QString::fromUtf8(attribute->value);
-    }
+    if (ppd != currentPPD)
+        LocalizeTableName = QString(); // a table that another PPD named
+    if (LocalizeTableName.isNull())
+        takeLocalizeTable(ppd);
     InitializeUserPaneTitle(bundle);
     InitializeUserPaneControl(bundle, ppd);
     pdeBundleRef = bundle;
@@ -38,7 +38,7 @@ int32_t PopupWinInPanelKRVImageOptions::ReInitializeUserPane() {
 }
 
 int32_t PopupWinInPanelKRVImageOptions::ActivateWindow() {
-    if (!windowRef)
+    if (!windowRef || isRunning())
         return 0;
     ReInitializeUserPane();
     SetUIDataToIniData();
@@ -67,6 +67,10 @@ int32_t PopupWinInPanelKRVImageOptions::ReleaseWindow() {
 int32_t PopupWinInPanelKRVImageOptions::DeactivateWindow() {
     endRun();
     return 0;
+}
+
+bool PopupWinInPanelKRVImageOptions::isRunning() const {
+    return windowRef && windowRef->isVisible();
 }
 
 void PopupWinInPanelKRVImageOptions::endRun() {

@@ -61,6 +61,9 @@ protected:
     ppd_file_t *currentPPD = nullptr;
     bool isActived = false;
 
+    /// Whether the window stands, with its loop running.
+    bool isRunning() const;
+
 private:
     void endRun();
 };

@@ -30,10 +30,6 @@ bool GColorBalanceButtonKRV::UIEventHandler() {
     return true;
 }
 
-void GColorBalanceButtonKRV::RequestControlAction() {
-    UIEventHandler();
-}
-
 void GImageSettingsButtonKRV::GImageSettingsButton(ButtonView *view, const char *title) {
     CreateControl(view, title);
     bIsBlackOverPrint = false;
@@ -60,10 +56,6 @@ bool GImageSettingsButtonKRV::UIEventHandler() {
     if (window)
         window->ActivateWindow();
     return true;
-}
-
-void GImageSettingsButtonKRV::RequestControlAction() {
-    UIEventHandler();
 }
 
 bool GOKButtonKRV::UIEventHandler() {

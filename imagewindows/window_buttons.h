@@ -7,8 +7,6 @@ class GColorBalanceButtonKRV : public BaseButtonKRVImageOptions {
 public:
     /// @return true
     bool UIEventHandler() override;
-    /// The event alone: the button may be gone when the window's run returns.
-    void RequestControlAction() override;
 };
 
 /// Opens the image adjustment window: the form with black overprint for a PPD that has the option,
@@ -20,8 +18,6 @@ public:
     bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
     /// @return false without a panel
     bool UIEventHandler() override;
-    /// The event alone: the button may be gone when the window's run returns.
-    void RequestControlAction() override;
 
 protected:
     bool bIsBlackOverPrint = false;

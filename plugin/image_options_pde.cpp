@@ -51,13 +51,6 @@ QWidget *ImageOptionsPDEk27::panelView() {
     return ImageOptionsView;
 }
 
-void ImageOptionsPDEk27::takeLocalizeTable(ppd_file_t *ppd) {
-    const ppd_attr_t *attribute =
-        ppd ? ppdFindAttr_ALT(ppd, "QZLocalizableFileIndex", nullptr) : nullptr;
-    if (attribute && attribute->value)
-        LocalizeTableName = QStringLiteral("Localizable") + QString::fromUtf8(attribute->value);
-}
-
 QString ImageOptionsPDEk27::panelName() {
     takeLocalizeTable(hostPPD());
     if (thePDEName.isNull()) {

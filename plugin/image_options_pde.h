@@ -121,8 +121,6 @@ private:
     void loadLayout();
     /// The PPD that the host has now, or null.
     ppd_file_t *hostPPD() const;
-    /// The strings table that the PPD names; the one in use stays if it names none.
-    void takeLocalizeTable(ppd_file_t *ppd);
     // One row each of CreatePanel's list.
     void addTitle(PPDStaticTextCtrlKRVImageOptions *&field, TextView *view, const char *key);
     template <class Control, class View, class Record>

@@ -11,9 +11,9 @@
 /// which they are told, ended by null. A null row: no control depends on the value.
 using CtrlTagList = const CtrlTag *;
 
-/// One row for each value of the owning control. A list's index is its selected item from 0. A check
-/// box or radio button has 0 for off and 1 for on in its disable and hide tables. The update table
-/// of every control but a list has one row, 0. An index outside the table is an empty row.
+/// One row for each value of the owning control. A list's index is its selected item from 0. A
+/// check box or radio button has 0 for off and 1 for on in its disable and hide tables. The update
+/// table of every control but a list has one row, 0. An index outside the table is an empty row.
 struct CtrlConstrainTable {
     std::span<const CtrlTagList> rows;
 

@@ -4,10 +4,14 @@
 
 #include "platform/pde/pde_plugin_callback.h"
 #include "platform/views/view.h"
+#include "ppd/ppd_query.h"
 #include "ppd/print_session.h"
 
 BasePrintPanelKRVImageOptions::BasePrintPanelKRVImageOptions() = default;
-BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() = default;
+BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() {
+    m_fields.clear(); // the subclass that they belong to is gone
+    BasePrintPanelKRVImageOptions::terminate(); // windows must not look for a panel that is gone
+}
 
 void BasePrintPanelKRVImageOptions::terminate() {
     for (const auto &clearField : m_fields)
@@ -15,6 +19,9 @@ void BasePrintPanelKRVImageOptions::terminate() {
     m_fields.clear();
     fCtrlGroupArray.reset();
     fCtrlInstallableGroupArray.reset();
+    if (fWindowGroupArray)
+        for (BasePrintPanelKRVImageOptions *window : *fWindowGroupArray)
+            window->SetParenetPane(nullptr);
     fWindowGroupArray.reset();
     currentPrintString = QString();
 }
@@ -144,4 +151,16 @@ void BasePrintPanelKRVImageOptions::setPreferDictionary(
         window.setPreferDictionary(user, anyUser);
         return 0;
     });
+}
+
+void BasePrintPanelKRVImageOptions::forgetWindow(const BasePrintPanelKRVImageOptions *window) {
+    if (fWindowGroupArray)
+        _parentPane_num_item -= static_cast<int32_t>(std::erase(*fWindowGroupArray, window));
+}
+
+void BasePrintPanelKRVImageOptions::takeLocalizeTable(ppd_file_t *ppd) {
+    const ppd_attr_t *attribute =
+        ppd ? ppdFindAttr_ALT(ppd, "QZLocalizableFileIndex", nullptr) : nullptr;
+    if (attribute && attribute->value)
+        LocalizeTableName = QStringLiteral("Localizable") + QString::fromUtf8(attribute->value);
 }

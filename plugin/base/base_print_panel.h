@@ -78,6 +78,9 @@ public:
     /// Registers a child window, which the caller owns. @return the number of windows before it
     int32_t RunTimeAddNewWindow(BasePrintPanelKRVImageOptions *window);
 
+    /// Takes a window that is going off the list.
+    void forgetWindow(const BasePrintPanelKRVImageOptions *window);
+
     virtual int32_t SetUIDataToIniData();
     /// Each control shows its default and runs its event before the next; windows keep their
     /// values.
@@ -166,6 +169,9 @@ protected:
     ppd_file_t *m_ptCurrentPPD = nullptr;
     PDEPluginCallback *m_pPDECallbackObj = nullptr;
     QString LocalizeTableName;
+
+    /// The strings table that the PPD names; the one in use stays if it names none.
+    void takeLocalizeTable(ppd_file_t *ppd);
 
     /// The reference that initWithCallback took.
     std::shared_ptr<PDEPluginCallback> m_retainedCallback;

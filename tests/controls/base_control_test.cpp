@@ -1,32 +1,26 @@
 #include "panel_fixture.h"
 
-#include "platform/kernel_release.h"
 #include "platform/preferences.h"
 #include "services/ticket_encoder.h"
 
 namespace {
 
-const CtrlAccessInfo kTicket{.ticketKey = "ticket.key"};
-const CtrlAccessInfo kPreference{.preferenceKey = "Pref"};
-const CtrlAccessInfo kNothing{};
-
 class BaseControlTest : public PanelTest {
 protected:
-    void SetUp() override { open(""); }
-    void TearDown() override { setKernelRelease("19.6.0"); }
-    QString ticket() const {
-        const PrintSettings::Entry *entry = host->settings.find(QStringLiteral("ticket.key"));
-        return entry ? entry->value : QString();
+    void SetUp() override {
+        open("");
+        control = recorder(7, "c");
+        control->setAccess(&access);
     }
+    QString ticket() const { return host->settings.find("ticket.key")->value; }
+
+    const CtrlAccessInfo access{.ticketKey = "ticket.key", .preferenceKey = "Pref"};
+    RecordingControl *control = nullptr;
 };
 
 TEST_F(BaseControlTest, TicketValueIsEscapedWhereItHasSpecialCharacters) {
-    struct Row {
-        QByteArray value;
-        const char *ticket;
-    };
-    const Row rows[] = {
-        {"12", "12"},
+    // clang-format off
+    const std::pair<QByteArray, QString> rows[] = {
         {"", ""},
         {"a/b", "a/b"},
         {"/a", "/47/97"},
@@ -34,41 +28,23 @@ TEST_F(BaseControlTest, TicketValueIsEscapedWhereItHasSpecialCharacters) {
         {"it's", "/105/116/39/115"},
         {"a\\", "/97/92"},
         {"\xC3\xA9,", "/195/169/44"},
-        {"a\xEF\xBF\xA4"
-         "b\xEF\xBF\xA4",
-         "a|b|"},
-        {QByteArray(255, 'x'), nullptr},
+        {"p\xEF\xBF\xA4q\xEF\xBF\xA4", "p|q|"},
+        {QByteArray(255, 'x'), QString(255, 'x')},
     };
-    RecordingControl *control = recorder(1, "c");
-    control->setAccess(&kTicket);
-    for (const Row &row : rows) {
-        control->setValue(row.value);
-        EXPECT_TRUE(control->SetValueToTicket(&host->settings, false)) << row.value.constData();
-        EXPECT_EQ(ticket(), row.ticket ? QString::fromUtf8(row.ticket) : QString(255, 'x'));
+    // clang-format on
+    for (const auto &[value, expected] : rows) {
+        control->setValue(value);
+        EXPECT_TRUE(save(control)) << value.constData();
+        EXPECT_EQ(ticket(), expected);
     }
-}
-
-TEST_F(BaseControlTest, StoresWithoutAKey) {
-    RecordingControl *control = recorder(1, "c");
-    for (const CtrlAccessInfo *access : {static_cast<const CtrlAccessInfo *>(nullptr), &kNothing}) {
-        control->setAccess(access);
-        control->setValue("1");
-        EXPECT_FALSE(control->SetValueToTicket(&host->settings, false));
-        EXPECT_FALSE(control->SetValueToTicketWithVLTEnc(&host->settings, false));
-        EXPECT_TRUE(control->SetValueToPreference());
-        EXPECT_TRUE(control->GetValueFromPreference());
-    }
-    EXPECT_TRUE(host->settings.entries().isEmpty());
+    control->setAccess(nullptr);
+    EXPECT_FALSE(save(control) || control->SetValueToTicketWithVLTEnc(&host->settings, false));
 }
 
 TEST_F(BaseControlTest, EncryptsForViewsOfTheArrayUpTo189Bytes) {
-    RecordingControl *control = recorder(7, "c");
-    control->setAccess(&kTicket);
     control->setValue("secret");
     QWidget same, other;
     same.setProperty("tag", 7);
-    other.setProperty("tag", 8);
-
     EXPECT_TRUE(control->SetValueToTicketEncryptArray(&host->settings, true, {&other}));
     EXPECT_EQ(ticket(), "secret");
     host->settings = PrintSettings();
@@ -95,60 +71,45 @@ TEST_F(BaseControlTest, EncryptsForViewsOfTheArrayUpTo189Bytes) {
 
 TEST_F(BaseControlTest, PreferencesLiveWithThePrinterOnOlderSystemsOnly) {
     using namespace preferences;
-    const auto stored = [] {
-        return CFPreferencesCopyValue(QStringLiteral("QueuePref"), kCFPreferencesAnyApplication,
-                                      kCFPreferencesCurrentUser, kCFPreferencesCurrentHost);
-    };
-    CFPreferencesSetValue(QStringLiteral("QueuePref"), QString(), kCFPreferencesAnyApplication,
+    CFPreferencesSetValue("QueuePref", QString(), kCFPreferencesAnyApplication,
                           kCFPreferencesCurrentUser, kCFPreferencesCurrentHost);
-    RecordingControl *control = recorder(1, "c");
-    control->setAccess(&kPreference);
     control->setValue("7");
-
-    EXPECT_TRUE(control->SetValueToPreference());
-    EXPECT_TRUE(stored().isNull());
-    EXPECT_FALSE(control->GetValueFromPreference());
-
-    setKernelRelease("10.8.0");
-    EXPECT_FALSE(control->GetValueFromPreference()) << "nothing stored yet";
-    EXPECT_TRUE(control->SetValueToPreference());
-    EXPECT_EQ(stored(), "7");
+    for (const char *release : {"19.6.0", "10.8.0"}) {
+        setKernelRelease(release);
+        const bool kept = release[1] == '0';
+        EXPECT_FALSE(control->GetValueFromPreference()) << "nothing stored yet";
+        EXPECT_TRUE(control->SetValueToPreference());
+        EXPECT_EQ(CFPreferencesCopyValue("QueuePref", kCFPreferencesAnyApplication,
+                                         kCFPreferencesCurrentUser, kCFPreferencesCurrentHost),
+                  kept ? "7" : QString());
+        EXPECT_EQ(control->GetValueFromPreference(), kept);
+    }
     control->setValue("0");
     EXPECT_TRUE(control->GetValueFromPreference());
     EXPECT_EQ(control->value(), "7");
-
     EXPECT_TRUE(control->SetValueToPreferenceWithPrinterSettings());
-    ASSERT_TRUE(host->settings.find("QueuePref"));
     EXPECT_EQ(host->settings.find("QueuePref")->value, "7");
 }
 
 TEST_F(BaseControlTest, CountsHoldAViewDownAndArentClamped) {
-    RecordingControl *control = recorder(1, "c");
     QWidget *view = control->GetControlPtr();
-    control->Disable();
-    control->Disable();
-    control->Enable();
-    EXPECT_FALSE(views::isEnabled(view)) << "another source holds it";
-    control->Enable();
-    EXPECT_TRUE(views::isEnabled(view));
-    control->Enable();
-    control->Disable();
-    EXPECT_TRUE(views::isEnabled(view)) << "the count is only 0 again";
-    control->Disable();
-    EXPECT_FALSE(views::isEnabled(view));
-
-    control->Hide();
-    control->Hide();
-    control->Show();
-    EXPECT_TRUE(views::isHidden(view));
+    // clang-format off
+    const std::pair<bool, bool> steps[] = { // whether it is held or released, and free then
+        {true, false}, {true, false}, {false, false}, {false, true},
+        {false, true}, {true, true}, {true, false}};
+    // clang-format on
+    for (const auto &[held, isFree] : steps) {
+        held ? control->Disable() : control->Enable();
+        held ? control->Hide() : control->Show();
+        EXPECT_EQ(views::isEnabled(view), isFree);
+        EXPECT_EQ(views::isHidden(view), !isFree);
+    }
     control->PPDCtrlShow();
     EXPECT_FALSE(views::isHidden(view));
     EXPECT_EQ(control->hideCount(), 1) << "removal by product passes the counts";
     control->PPDCtrlHide();
     control->ResetStatus();
-    EXPECT_TRUE(views::isEnabled(view));
-    EXPECT_FALSE(views::isHidden(view));
-    EXPECT_EQ(control->constrainCount(), 0);
+    EXPECT_TRUE(views::isEnabled(view) && !views::isHidden(view));
 }
 
 } // namespace

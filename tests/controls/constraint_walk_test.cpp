@@ -10,106 +10,83 @@ const CtrlTagList kRows[] = {nullptr, kA, kAB, nullptr};
 const CtrlConstrainTable kTable{kRows};
 const CtrlConstrainInfo kDisableAndUpdate{.disableTable = &kTable, .updateTable = &kTable};
 const CtrlConstrainInfo kHideOnly{.hideTable = &kTable};
-
 const char *const kMenu[] = {"One", "Two", "Three", "Four", "Five", nullptr};
 
 class ConstraintWalkTest : public PanelTest {
 protected:
-    PopupControlKRVImageOptions *list(int32_t iniValue, const CtrlConstrainInfo *info) {
+    void build(int32_t iniValue, const CtrlConstrainInfo *info) {
         open("");
         record = {.defaultValue = 1, .iniValue = iniValue, .menuKeys = kMenu};
-        auto control = std::make_unique<PopupControlKRVImageOptions>();
-        control->CreateControl(view<PopupView>(kListTag), &record, info, nullptr,
-                               kControlUserCurrent);
-        PopupControlKRVImageOptions *kept = control.get();
-        panel.RunTimeAddNewControl(std::move(control));
-        recorder(kATag, "a");
+        menu = view<PopupView>(kListTag);
+        auto made = std::make_unique<PopupControlKRVImageOptions>();
+        made->CreateControl(menu, &record, info, nullptr, kControlUserCurrent);
+        list = keep(std::move(made));
+        a = recorder(kATag, "a");
         recorder(kBTag, "b");
         start();
-        return kept;
-    }
-    void choose(BaseControlKRVImageOptions *control, int item) {
-        log.clear();
-        ASSERT_TRUE(qobject_cast<PopupView *>(control->GetControlPtr())->chooseItem(item));
     }
 
     PopupIniData record;
+    PopupView *menu = nullptr;
+    PopupControlKRVImageOptions *list = nullptr;
+    RecordingControl *a = nullptr;
 };
 
-TEST_F(ConstraintWalkTest, DisablingReleasesTheOldRowFirst) {
-    PopupControlKRVImageOptions *control = list(0, &kDisableAndUpdate);
-    EXPECT_EQ(log, QStringList()) << "the first item has no row";
-    struct Step {
+TEST_F(ConstraintWalkTest, RowsOfTheOldAndTheNewValue) {
+    // clang-format off
+    const struct {
+        const CtrlConstrainInfo *info; // null: the former row's, with the menu as it stands
         int item;
         QStringList told;
+    } steps[] = {
+        // Disabling releases the old row first; a value outside the table has an empty row.
+        {&kDisableAndUpdate, 1, {"update a", "disable a"}},
+        {nullptr, 2, {"update a", "update b", "enable a", "disable a", "disable b"}},
+        {nullptr, 4, {"enable a", "enable b"}},
+        {nullptr, 1, {"update a", "disable a"}},
+        {nullptr, 1, {}},
+        {nullptr, 0, {"enable a"}},
+        // Hiding applies the new row first.
+        {&kHideOnly, 1, {"hide a"}},
+        {nullptr, 2, {"hide a", "hide b", "show a"}},
+        {nullptr, 0, {"show a", "show b"}},
     };
-    const Step steps[] = {
-        {1, {"update a", "disable a"}},
-        {2, {"update a", "update b", "enable a", "disable a", "disable b"}},
-        {4, {"enable a", "enable b"}}, // a value outside the table has an empty row
-        {1, {"update a", "disable a"}},
-        {0, {"enable a"}},
-    };
-    for (const Step &step : steps) {
-        choose(control, step.item);
+    // clang-format on
+    for (const auto &step : steps) {
+        if (step.info)
+            build(step.info == &kHideOnly ? -1 : 0, step.info);
+        log.clear();
+        ASSERT_TRUE(menu->chooseItem(step.item));
         EXPECT_EQ(log, step.told) << "item " << step.item;
     }
-    choose(control, 1);
-    choose(control, 1);
-    EXPECT_EQ(log, QStringList()) << "the item shown already";
 }
 
 TEST_F(ConstraintWalkTest, OpeningAgainCountsNothingAgain) {
-    PopupControlKRVImageOptions *control = list(0, &kDisableAndUpdate);
-    choose(control, 2);
-    control->GetValueFromUI();
-    control->SetValueFromUIToControl();
+    build(0, &kDisableAndUpdate);
+    menu->chooseItem(2);
+    panel.SetValueFromUIToControl();
     panel.SetCurrentValueToUI();
     panel.SetCurrentValueToUI();
-    EXPECT_EQ(panel.GetPanelControl(&kATag)->constrainCount(), 1);
-    choose(control, 0);
-    EXPECT_EQ(panel.GetPanelControl(&kATag)->constrainCount(), 0);
-}
-
-TEST_F(ConstraintWalkTest, HidingAppliesTheNewRowFirst) {
-    PopupControlKRVImageOptions *control = list(-1, &kHideOnly);
-    choose(control, 1);
-    EXPECT_EQ(log, QStringList({"hide a"}));
-    choose(control, 2);
-    EXPECT_EQ(log, QStringList({"hide a", "hide b", "show a"}));
-    choose(control, 0);
-    EXPECT_EQ(log, QStringList({"show a", "show b"}));
+    EXPECT_EQ(a->constrainCount(), 1);
+    menu->chooseItem(0);
+    EXPECT_EQ(a->constrainCount(), 0);
+    menu->chooseItem(1);
+    menu->selectItemAtIndex(-1);
+    list->SimulationUIEventHandler();
+    EXPECT_EQ(a->constrainCount(), 0) << "no selection counts as the first item";
 }
 
 TEST_F(ConstraintWalkTest, SimulationCountsAHideRowAgainUntilTheViewIsRead) {
-    PopupControlKRVImageOptions *control = list(-1, &kHideOnly);
+    build(-1, &kHideOnly);
     const int32_t value = 2;
-    control->SetExternalValueToUI(&value, sizeof value);
-    log.clear();
-    control->SimulationUIEventHandler();
-    control->SimulationUIEventHandler();
+    list->SetExternalValueToUI(&value, sizeof value);
+    EXPECT_EQ(log, QStringList()) << "a change of the program's tells nobody";
+    list->SimulationUIEventHandler();
+    list->SimulationUIEventHandler();
     EXPECT_EQ(log, QStringList({"hide a", "hide a"}));
-    control->GetValueFromUI();
-    control->SimulationUIEventHandler();
+    list->GetValueFromUI();
+    list->SimulationUIEventHandler();
     EXPECT_EQ(log.size(), 2);
-}
-
-TEST_F(ConstraintWalkTest, NoSelectionCountsAsTheFirstItem) {
-    PopupControlKRVImageOptions *control = list(0, &kDisableAndUpdate);
-    choose(control, 1);
-    qobject_cast<PopupView *>(control->GetControlPtr())->selectItemAtIndex(-1);
-    log.clear();
-    control->SimulationUIEventHandler();
-    EXPECT_EQ(log, QStringList({"enable a"}));
-}
-
-TEST_F(ConstraintWalkTest, ProgramChangesTellNobody) {
-    PopupControlKRVImageOptions *control = list(0, &kDisableAndUpdate);
-    log.clear();
-    const int32_t value = 3;
-    control->SetExternalValueToUI(&value, sizeof value);
-    EXPECT_EQ(control->GetCurrentControlArrayNumber(), 2);
-    EXPECT_EQ(log, QStringList());
 }
 
 } // namespace

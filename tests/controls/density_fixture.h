@@ -19,21 +19,18 @@ protected:
     }
     void build(const QByteArray &ppdBody) {
         open(ppdBody);
-        auto number = std::make_unique<GTextEditCtrlKRV>();
-        edit = number.get();
         field = view<TextFieldView>(kEdit);
-        edit->CreateControl(field, &editRecord, &fieldInfo, &access, kControlUserCurrent, &filter);
-        panel.RunTimeAddNewControl(std::move(number));
+        auto number = std::make_unique<GTextEditCtrlKRV>();
+        number->CreateControl(field, &editRecord, &fieldInfo, &access, kControlUserCurrent,
+                              &filter);
+        edit = keep(std::move(number));
         recorder(kPreview, "preview");
-        auto arrows = std::make_unique<GLittleArrayControlKRV>();
-        stepper = arrows.get();
         arrow = view<StepperView>(kStepper);
-        stepper->PPDLittleArrayControl(arrow, &record, kPPDColorDensityCyanLowKey, &stepperInfo,
-                                       &access, kControlUserCurrent);
-        panel.RunTimeAddNewControl(std::move(arrows));
+        auto arrows = std::make_unique<GLittleArrayControlKRV>();
+        arrows->PPDLittleArrayControl(arrow, &record, kPPDColorDensityCyanLowKey, &stepperInfo,
+                                      &access, kControlUserCurrent);
+        stepper = keep(std::move(arrows));
         start();
-        host->calls.clear();
-        log.clear();
     }
     /// Field and stepper show this number, and the arrow moves on from it.
     void expectBothShow(int number) {

@@ -1,14 +1,20 @@
 #pragma once
 
 #include "controls/popup_family.h"
+#include "platform/bundle.h"
+#include "platform/kernel_release.h"
 #include "platform/views/popup_view.h"
 #include "platform/views/text_view.h"
 #include "plugin/base/base_print_panel.h"
 #include "ppd/constraint_table.h"
+#include "ppd/product_type.h"
 #include "support/ppd_text.h"
 #include "support/test_host.h"
 
+#include <QDir>
+#include <QFile>
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -33,25 +39,18 @@ public:
     int32_t Hide() override { return note("hide"), BaseControlKRVImageOptions::Hide(); }
     int32_t Update() override { return note("update"), 0; }
     bool ConvertToTickectData(char *buffer) override {
-        qstrncpy(buffer, m_text.constData(), kTicketBufferSize);
-        return true;
+        return qstrncpy(buffer, m_text.constData(), kTicketBufferSize);
     }
     bool ConvertToPreferenceString(char *buffer) override {
-        qstrncpy(buffer, m_text.constData(), kPreferenceBufferSize);
-        return true;
+        return qstrncpy(buffer, m_text.constData(), kPreferenceBufferSize);
     }
-    bool ConvertFromPreferenceString(const char *text) override {
-        m_text = text;
-        return true;
-    }
+    bool ConvertFromPreferenceString(const char *text) override { return m_text = text, true; }
     const QByteArray &value() const { return m_text; }
 
-private:
-    void note(const char *what) {
-        if (m_log)
-            m_log->append(QLatin1String(what) + QLatin1Char(' ') + m_name);
-    }
+protected:
+    void note(const QString &what) { m_log->append(what + " " + m_name); }
 
+private:
     QStringList *m_log;
     QString m_name;
     QByteArray m_text;
@@ -60,6 +59,18 @@ private:
 /// A panel on a PPD text, with views that the test adds by tag.
 class PanelTest : public testing::Test {
 protected:
+    using Calls = QList<QPair<QString, QString>>;
+
+    PanelTest() {
+        QDir(folder.path()).mkpath("Resources");
+        QFile info(folder.filePath("Info.json"));
+        EXPECT_TRUE(info.open(QIODevice::WriteOnly));
+        info.write(R"({"CFBundleIdentifier": "test.text", "CFBundleVersion": "2.5 Build 7"})");
+        info.close();
+        bundle = Bundle::open(folder.path());
+        EXPECT_TRUE(bundle);
+    }
+    void TearDown() override { setKernelRelease("19.6.0"); }
     void open(const QByteArray &body) {
         ppd = openPpdText(body);
         ASSERT_TRUE(ppd);
@@ -70,6 +81,7 @@ protected:
         xSetxppd(ppd.get(), table.get());
         panel.SetxppdPtr(table);
         panel.SetCurrentPrintSettings(&host->settings, ppd.get(), host.get(), &host->session);
+        CPPDChecker::Instance()->Init();
     }
     template <class View>
     View *view(int tag) {
@@ -77,20 +89,43 @@ protected:
         made->setProperty("tag", tag);
         return made;
     }
-    RecordingControl *recorder(int tag, const QString &name) {
-        auto control = std::make_unique<RecordingControl>(view<TextView>(tag), &log, name);
-        RecordingControl *kept = control.get();
+    template <class Control>
+    Control *keep(std::unique_ptr<Control> control) {
+        Control *kept = control.get();
         panel.RunTimeAddNewControl(std::move(control));
         return kept;
     }
+    RecordingControl *recorder(int tag, const QString &name) {
+        return keep(std::make_unique<RecordingControl>(view<TextView>(tag), &log, name));
+    }
     /// What opening a panel does with its controls.
     void start() {
-        panel.InitializeUserPane(nullptr, ppd.get());
+        panel.InitializeUserPane(bundle.get(), ppd.get());
         panel.SetUIDataToIniData();
         panel.GetValueFromPreset();
         panel.SetCurrentValueToUI();
+        host->calls.clear();
+        log.clear();
+    }
+    /// The rows of the summary, each as "title=text".
+    QStringList summary() {
+        QVariantMap rows;
+        QStringList order;
+        panel.GetSummaryText(&rows, &order);
+        for (QString &title : order)
+            title += "=" + rows.value(title).toString();
+        return order;
+    }
+    /// Whether a control has reported the option as there.
+    static bool reported(const char *key) { return CPPDChecker::Instance()->checks.at(key); }
+    /// Whether the control has something for the host or the ticket.
+    bool save(BaseControlKRVImageOptions *control) {
+        host->calls.clear();
+        return control->SetValueToTicket(&host->settings, false);
     }
 
+    QTemporaryDir folder;
+    std::shared_ptr<Bundle> bundle; ///< has a version, and no string: every text is the fallback
     QWidget window;
     PpdPtr ppd;
     std::shared_ptr<TestHost> host;

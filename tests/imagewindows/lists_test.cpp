@@ -2,24 +2,18 @@
 
 #include "imagewindows/cmyk_lists.h"
 #include "imagewindows/output_mode_list.h"
-#include "imagewindows/plugin_type_list.h"
 #include "imagewindows/rgb_correction_list.h"
-#include "imagewindows/screen_list.h"
 
 namespace {
 
-using Calls = QList<QPair<QString, QString>>;
-constexpr const char *kRgb = "QZRGBCorrection", *kCmyk = "QZCMYKCorrectionSTD";
 constexpr const char *kMode = "QZOutputMode", *kPaper = "QZCMYKCorrectionTarget";
-constexpr int kModeTag = 103;
 
 class ListsTest : public MainPanelTest {
 protected:
     /// Both RGB lists on an option with the choices of a text.
-    void openRgb(const char *choices, const char *standard, const QByteArray &more = "",
-                 const CtrlConstrainInfo *info = nullptr) {
+    void openRgb(const char *choices, const char *standard, const QByteArray &more = "") {
         open(ppdOption(kRgb, QByteArray(choices).split(' '), standard) + more);
-        list = addList<RGBCorrectionListCtrlKRV>(panel, kRgb, rgbColorCorrectonListTag, info);
+        list = addList<RGBCorrectionListCtrlKRV>(panel, kRgb, rgbColorCorrectonListTag);
         panel.rgb = list;
         child = addList<RGBCorrectionListCtrlIAKRV>(*window, kRgb, RGBColorCorrectionIAListTag);
     }
@@ -45,7 +39,6 @@ TEST_F(ListsTest, RgbMenuLeavesNoneOut) {
     } cases[] = {
         {"None Perceptual Vivid", "Vivid", "Perceptual- Vivid-", "Perceptual- Vivid-", 2},
         {"None Perceptual Vivid", "None", "Perceptual- Vivid-", "Perceptual- Vivid-", 0},
-        {"None Soft Vivid", "None", "Soft- Vivid-", "Soft- Vivid-", 1},
         {"Pure Soft None Vivid", "Soft", "Pure Soft- Vivid-", "Pure- Soft Vivid-", 1},
         {"Soft Vivid None", "Vivid", "Soft Vivid-", "Soft- Vivid-", 1},
         {"Soft Vivid Photo", "Photo", "Vivid- Photo-", "Vivid- Photo-", 2},
@@ -54,33 +47,15 @@ TEST_F(ListsTest, RgbMenuLeavesNoneOut) {
     for (const auto &row : cases) {
         SCOPED_TRACE(row.choices);
         const QList<QByteArray> choices = QByteArray(row.choices).split(' ');
-        QByteArray rules = ppdOption("QZX", {"A", "B"});
-        for (const QByteArray &choice : {choices[1], choices.last()})
-            rules += "*UIConstraints: *QZX A *QZRGBCorrection " + choice + "\n";
-        openRgb(row.choices, row.standard, rules);
+        const QByteArray rule = "*UIConstraints: *QZX A *QZRGBCorrection ";
+        const QByteArray rules = rule + choices[1] + "\n" + rule + choices.last() + "\n";
+        openRgb(row.choices, row.standard, ppdOption("QZX", {"A", "B"}) + rules);
         start();
         EXPECT_EQ(items(list), row.mainMenu);
         EXPECT_EQ(items(child), row.childMenu);
         EXPECT_EQ(*static_cast<const int *>(list->GetDefaultDataBlk()), row.defaultValue);
-        list->UpdateConflictsPanelControlFromPPD(ppd.get());
-        EXPECT_EQ(items(list), row.childMenu);
         EXPECT_EQ(list->GetUISelectStr(), row.standard) << "the marked row, item or not";
     }
-}
-
-TEST_F(ListsTest, RgbItemIsTheRowBehindIt) {
-    openRgb("None Perceptual Vivid Soft", "Vivid");
-    start();
-    EXPECT_EQ(shown(list), 1);
-    ASSERT_TRUE(menu(list)->chooseItem(2));
-    EXPECT_TRUE(list->SetValueToTicket(nullptr, false)) << "what is shown, committed or not";
-    EXPECT_TRUE(list->RestorePPD(ppd.get()));
-    EXPECT_TRUE(list->SetDefaultValueToUI());
-    EXPECT_EQ(shown(list), 1);
-    const Calls told{{kRgb, "Soft"}, {kRgb, "Soft"}, {kRgb, "Vivid"}, {kRgb, "Vivid"}};
-    EXPECT_EQ(host->calls, told);
-    for (const int index : {0, 4, 5})
-        EXPECT_EQ(list->ConvertFromPresetIndex(index), index == 4);
 }
 
 TEST_F(ListsTest, MarkedNoneShowsNothingAndStaysNone) {
@@ -89,7 +64,6 @@ TEST_F(ListsTest, MarkedNoneShowsNothingAndStaysNone) {
     start();
     panel.Open();
     EXPECT_EQ(shown(list), -1);
-    EXPECT_EQ(shown(child), -1);
     ASSERT_TRUE(menu(child)->chooseItem(1));
     EXPECT_EQ(host->marked(kRgb), "Vivid");
     EXPECT_TRUE(child->RestorePPD(ppd.get()));
@@ -101,76 +75,53 @@ TEST_F(ListsTest, MarkedNoneShowsNothingAndStaysNone) {
 }
 
 TEST_F(ListsTest, PrintingWithoutAdvancedSettingOrColorSendsNone) {
-    const struct {
-        bool printing, advanced, color;
-        const char *choices, *sent;
-    } cases[] = {
-        {true, true, true, "None Vivid", "Vivid"},  {false, false, false, "None Vivid", "Vivid"},
-        {true, false, true, "None Vivid", "None"},  {true, true, false, "None Vivid", "None"},
+    // clang-format off
+    using Row = std::tuple<bool, bool, bool, const char *, const char *>;
+    const Row rows[] = { // printing, advanced setting, colour, choices, what is sent
+        {false, false, false, "None Vivid", "Vivid"},
+        {true, false, true, "None Vivid", "None"},
+        {true, true, false, "None Vivid", "None"},
         {true, true, false, "Soft Vivid", "Vivid"},
     };
-    for (const auto &row : cases) {
-        openRgb(row.choices, "Vivid");
+    // clang-format on
+    for (const auto &[printing, advanced, color, choices, sent] : rows) {
+        openRgb(choices, "Vivid");
         start();
-        panel.printing = row.printing;
-        panel.advanced = row.advanced;
-        panel.color = row.color;
+        std::tie(panel.printing, panel.advanced, panel.color) = std::tie(printing, advanced, color);
         EXPECT_TRUE(list->SetValueToTicket(nullptr, false));
-        delete list->GetControlPtr();
-        EXPECT_TRUE(list->SetValueToTicket(nullptr, false)) << "without a view too";
-        EXPECT_EQ(host->calls, Calls({{kRgb, row.sent}, {kRgb, row.sent}}));
-        host->refuses = true;
-        EXPECT_FALSE(list->SetValueToTicket(nullptr, false));
+        EXPECT_EQ(host->calls, Calls({{kRgb, sent}}));
     }
 }
 
 TEST_F(ListsTest, MailboxJobForcesTheOutputMode) {
-    const struct {
-        const char *attribute;
-        int item; // -1: no mailbox mode among the rows
-        bool forced;
-        QStringList summary;
-    } cases[] = {
-        {"*QZXMailBoxSettings: \"AutoFine\"\n", 1, true, {"Fine label"}},
-        {"*QZXMailBoxSettings: \"AutoAVeryLongOutputMode\"\n", 2, true, {""}},
-        {"*QZXMailBoxSettings: \"Auto\"\n", -1, true, {}},
-        {"", 0, false, {"Normal label"}},
+    // The attribute, the item (-1: no mailbox mode among the rows), whether it is forced, summary.
+    const std::tuple<QByteArray, int, bool, QString> rows[] = {
+        {"*QZXMailBoxSettings: \"AutoFine\"\n", 1, true, "Fine label"},
+        {"*QZXMailBoxSettings: \"AutoAVeryLongOutputMode\"\n", 2, true, ""},
+        {"*QZXMailBoxSettings: \"Auto\"\n", -1, true, ""},
+        {"", 0, false, "Normal label"},
     };
-    for (const auto &row : cases) {
-        SCOPED_TRACE(row.attribute);
-        open(ppdOption(kMode, {"Normal", "Fine", "AVeryLongOutputMode"}) + row.attribute);
-        auto label = std::make_unique<PPDStaticTextCtrlKRVImageOptions>();
-        label->CreateControl(new TextView(&view), kMode, nullptr, nullptr, nullptr, {}, nullptr);
-        const auto *title = add(panel, std::move(label), OutputModeStaticTag);
-        auto *mode =
-            addList<GOutputModeListCtrlKRV>(panel, kMode, kModeTag, nullptr, &OutputModeStaticTag);
+    for (const auto &[attribute, item, forced, text] : rows) {
+        SCOPED_TRACE(attribute.constData());
+        open(ppdOption(kMode, {"Normal", "Fine", "AVeryLongOutputMode"}) + attribute);
+        auto *mode = addList<GOutputModeListCtrlKRV>(panel, kMode, 103);
         start();
         for (const bool mailbox : {false, true, true, false}) {
             panel.mailbox = mailbox;
             panel.Open();
-            EXPECT_EQ(views::isEnabled(menu(mode)), !(mailbox && row.forced));
-            EXPECT_EQ(views::isEnabled(title->GetControlPtr()), !(mailbox && row.forced));
-            EXPECT_EQ(shown(mode), mailbox ? row.item : 0);
-            EXPECT_EQ(mode->constrainCount(), mailbox && row.forced) << "held once";
-            QVariantMap rows;
-            QStringList order;
-            panel.GetSummaryText(&rows, &order);
-            EXPECT_EQ(order.isEmpty() ? QStringList() : rows[order[0]].toStringList(),
-                      mailbox ? row.summary : QStringList("Normal label"));
+            EXPECT_EQ(views::isEnabled(menu(mode)), !(mailbox && forced));
+            EXPECT_EQ(shown(mode), mailbox ? item : 0);
+            EXPECT_EQ(mode->constrainCount(), mailbox && forced) << "held once";
+            EXPECT_EQ(summary(), mailbox ? text : "Normal label");
         }
         panel.mailbox = true; // after the panel was shown, and never shown again
-        for (int round = 0; row.item > 0 && round < 2; ++round) {
+        for (int round = 0; item > 0 && round < 2; ++round) {
             panel.SetValueFromUIToControl();
             EXPECT_TRUE(mode->SetValueToTicket(nullptr, false));
-            EXPECT_EQ(host->marked(kMode), row.item == 1 ? "Fine" : "AVeryLongOutputMode");
+            EXPECT_EQ(host->marked(kMode), item == 1 ? "Fine" : "AVeryLongOutputMode");
             EXPECT_TRUE(mode->SetDefaultValueToUI()) << "marks the default";
         }
     }
-    open("*QZXMailBoxSettings: \"AutoFine\"\n");
-    auto *mode = addList<GOutputModeListCtrlKRV>(panel, kMode, kModeTag);
-    start();
-    panel.UpdateConflictsPanelControlFromPPD(ppd.get());
-    EXPECT_TRUE(views::isHidden(menu(mode))) << "an attribute without its option shows nothing";
 }
 
 TEST_F(ListsTest, CmykNoneDisablesTargetPaperAtItsPlace) {
@@ -185,51 +136,11 @@ TEST_F(ListsTest, CmykNoneDisablesTargetPaperAtItsPlace) {
         auto *paper =
             addList<CMYKTargetMediaListCtrlIAKRV>(*window, kPaper, targetpaperIAPopupButtonTag);
         start();
-        EXPECT_EQ(shown(cmyk), shown(panel.cmyk));
         for (int i = 0; i < 2 * choices.size(); ++i) {
             menu(cmyk)->chooseItem(i % choices.size());
             EXPECT_EQ(views::isEnabled(menu(paper)), choices[i % choices.size()] != "None");
         }
         EXPECT_TRUE(paper->ToGetSummaryText()) << "the main panel still has Vivid";
-        panel.advanced = false;
-        EXPECT_FALSE(paper->ToGetSummaryText());
-        panel.advanced = true;
-        if (markChoice(ppd.get(), kCmyk, "None")) {
-            panel.cmyk->Open();
-            EXPECT_FALSE(paper->ToGetSummaryText());
-        }
-    }
-    EXPECT_FALSE(CMYKCorrectionListCtrlIAKRV().InitializeCtrl(nullptr, nullptr)) << "no table";
-}
-
-TEST_F(ListsTest, ScreenListGoesBackUnlessRestoring) {
-    static const CtrlTag screenTag[] = {&ScreenListTag, nullptr};
-    static const CtrlTagList rows[] = {screenTag}; // serves every item
-    static const CtrlConstrainTable table{rows};
-    static const CtrlConstrainInfo info{.updateTable = &table};
-    openRgb("None Perceptual Vivid", "Perceptual", ppdOption("QZScreen", {"Fine", "Coarse"}),
-            &info);
-    auto *screen = addList<ScreenListCtrlKRV>(panel, "QZScreen", ScreenListTag);
-    markChoice(ppd.get(), "QZScreen", "Coarse");
-    panel.restoring = true;
-    start();
-    panel.restoring = false;
-    list->GetValueFromUI();
-    list->SimulationUIEventHandler();
-    EXPECT_EQ(shown(screen), 1) << "nothing has changed";
-    ASSERT_TRUE(menu(list)->chooseItem(1));
-    EXPECT_EQ(shown(screen), 0);
-    EXPECT_EQ(host->marked("QZScreen"), "Fine");
-}
-
-TEST_F(ListsTest, PluginTypesCountFromOne) {
-    PopupIniData record{.defaultValue = 1};
-    PluginTypeListCtrlKRV types;
-    EXPECT_TRUE(types.SetPluginType(4));
-    types.CreateControl(nullptr, &record, nullptr, nullptr, QString());
-    for (const int type : {4, 0, -1}) {
-        EXPECT_TRUE(types.SetPluginType(type));
-        EXPECT_EQ(record.defaultValue, 4u);
     }
 }
 

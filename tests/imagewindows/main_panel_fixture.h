@@ -1,9 +1,7 @@
 #pragma once
 
-#include "controls/static_text_family.h"
 #include "imagewindows/popup_window.h"
 #include "platform/views/popup_view.h"
-#include "platform/views/text_view.h"
 #include "support/ppd_text.h"
 #include "support/test_host.h"
 
@@ -15,7 +13,6 @@
 class MainPanel : public BasePrintPanelKRVImageOptions {
 public:
     using Window = PopupWinInPanelKRVImageOptions;
-    bool GetPDEStatus() const override { return restoring; }
     bool getPrintTypeMailbox() const override { return mailbox; }
     bool IsAdvancedSettingAvailable() const override { return advanced; }
     bool IsColorModeAvailable() const override { return color; }
@@ -26,14 +23,18 @@ public:
     Window *getImageAdjustmentWnd() const override { return plain; }
     Window *getImageAdjustmentBlackOverWnd() const override { return blackOver; }
 
-    bool restoring = false, mailbox = false, advanced = true, color = true, printing = false;
+    bool mailbox = false, advanced = true, color = true, printing = false;
     PPDPopupControlKRVImageOptions *rgb = nullptr, *cmyk = nullptr;
     Window *balance = nullptr, *plain = nullptr, *blackOver = nullptr;
 };
 
+constexpr const char *kRgb = "QZRGBCorrection", *kCmyk = "QZCMYKCorrectionSTD";
+
 /// A main panel on a PPD text and one window, with controls that the test adds to either.
 class MainPanelTest : public testing::Test {
 protected:
+    using Calls = QList<QPair<QString, QString>>;
+
     void open(const QByteArray &body) {
         panel.terminate();
         window->terminate();
@@ -68,12 +69,12 @@ protected:
         return &owner != &panel && windowView ? windowView : &view;
     }
     template <class List>
-    List *addList(BasePrintPanelKRVImageOptions &owner, const char *key, const int &tag,
-                  const CtrlConstrainInfo *info = nullptr, const int *title = nullptr) {
+    List *addList(BasePrintPanelKRVImageOptions &owner, const char *key, int tag,
+                  const CtrlConstrainInfo *info = nullptr) {
         records.push_back({.startValue = 1, .defaultValue = 1, .iniValue = 0});
         auto list = std::make_unique<List>();
         list->CreateControl(new PopupView(place(owner)), key, &records.back(), info, nullptr,
-                            kControlUserCurrent, title);
+                            kControlUserCurrent, nullptr);
         return add(owner, std::move(list), tag);
     }
     static PopupView *menu(const BaseControlKRVImageOptions *control) {
@@ -81,6 +82,14 @@ protected:
     }
     static int shown(const BaseControlKRVImageOptions *list) {
         return menu(list)->indexOfSelectedItem();
+    }
+
+    /// The texts of the summary.
+    QString summary() {
+        QVariantMap rows;
+        QStringList order;
+        panel.GetSummaryText(&rows, &order);
+        return order.isEmpty() ? QString() : rows[order[0]].toString();
     }
 
     QWidget view;

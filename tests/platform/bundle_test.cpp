@@ -1,99 +1,58 @@
 #include "temporary_bundle.h"
 
-namespace {
-
-struct Languages {
-    explicit Languages(const QStringList &codes) { Bundle::setLanguages(codes); }
-    ~Languages() { Bundle::setLanguages({}); }
+struct BundleTest : testing::Test {
+    const TemporaryBundle folder{R"({"CFBundleIdentifier": "test.one"})"};
+    std::shared_ptr<Bundle> bundle = Bundle::open(folder.path() + "/");
+    ~BundleTest() override { Bundle::setLanguages({}); }
 };
 
-TEST(Bundle, RefusesWhatIsNoneWithOneLine) {
-    const struct {
-        const char *info;
-        const char *reason;
-    } cases[] = {
-        {"{", "Info.json: "},
-        {"[1]", "CFBundleIdentifier"},
-        {R"({"CFBundleVersion": "1"})", "CFBundleIdentifier"},
-    };
-    for (const auto &row : cases) {
-        const TemporaryBundle folder(row.info);
-        QString error;
-        EXPECT_FALSE(Bundle::open(folder.path(), &error)) << row.info;
-        EXPECT_TRUE(error.startsWith(folder.path()) && error.contains(row.reason) &&
-                    !error.contains('\n'))
-            << error.toStdString();
-    }
+TEST_F(BundleTest, IsOneObjectWhileItIsOpen) {
     QString error;
-    EXPECT_FALSE(Bundle::open("/no/such/folder", &error));
-    EXPECT_EQ("/no/such/folder: no such folder", error);
-}
-
-TEST(Bundle, IsOneObjectWhileItIsOpen) {
-    const TemporaryBundle folder(
-        R"({"CFBundleIdentifier": "test.one", "CFBundleVersion": "1 Build 2"})");
-    auto bundle = Bundle::open(folder.path() + "/");
-    ASSERT_TRUE(bundle);
-    EXPECT_EQ(bundle, Bundle::open(folder.path("../") + QDir(folder.path()).dirName()));
+    for (const char *info : {"{", "[1]", R"({"CFBundleVersion": "1"})"}) {
+        const TemporaryBundle wrong(info);
+        EXPECT_FALSE(Bundle::open(wrong.path(), &error)) << info;
+        EXPECT_TRUE(error.startsWith(wrong.path()) && !error.contains('\n')) << info;
+    }
+    EXPECT_EQ(bundle, Bundle::open(folder.path() + "/../" + QDir(folder.path()).dirName()));
     EXPECT_EQ(bundle, Bundle::withIdentifier("test.one"));
-    EXPECT_EQ(folder.path(), bundle->directory());
-    EXPECT_EQ("1 Build 2", bundle->infoValue("CFBundleVersion").toString());
-    EXPECT_FALSE(bundle->infoValue("Other").isValid());
     bundle.reset();
     EXPECT_FALSE(Bundle::withIdentifier("test.one"));
 }
 
-TEST(Bundle, FindsResourcesOfTheBestLanguageAndNothingOutside) {
-    const TemporaryBundle folder(R"({"CFBundleIdentifier": "test.resources"})");
-    for (const char *file :
-         {"Resources/Panel.ui", "Resources/Help/a.htm", "Resources/de/Help/a.htm",
-          "Resources/zh.lproj/Help/a.htm", "Resources/Folder.ui/x", "outside.txt"})
-        folder.write(file, "x");
-    const auto bundle = Bundle::open(folder.path());
-    const struct {
-        const char *language, *name, *type, *subdirectory, *found;
-    } cases[] = {
-        {"en", "Panel", "nib", "", "Resources/Panel.ui"},
-        {"de_AT", "a", "htm", "Help", "Resources/de/Help/a.htm"},
-        {"zh-Hans-CN", "a.htm", "", "Help", "Resources/zh.lproj/Help/a.htm"},
-        {"fr", "a", "htm", "Help", "Resources/Help/a.htm"},
-        {"de", "b", "htm", "Help", ""},
-        {"de", "Folder", "nib", "", ""},
-        {"de", "../outside", "txt", "", ""},
-        {"de", "outside", "txt", "Help/../..", ""},
-        {"de", "", "", "", ""},
-    };
-    for (const auto &row : cases) {
-        const Languages languages({row.language});
-        const QString found = bundle->resourcePath(row.name, row.type, row.subdirectory);
-        EXPECT_EQ(*row.found ? folder.path(row.found) : QString(), found) << row.name;
-        EXPECT_EQ(*row.found == '\0', found.isNull()) << row.name;
+TEST_F(BundleTest, FindsResourcesOfTheBestLanguageAndNothingOutside) {
+    for (const char *file : {"Panel.ui", "Help/a.htm", "de/Help/a.htm", "zh.lproj/Help/a.htm",
+                             "Folder.ui/x", "../outside.txt"})
+        folder.write(QString("Resources/") + file, "x");
+    // clang-format off
+    const std::tuple<QString, QString, QString, QString, QString> cases[] = {
+        {"en", "Panel", "nib", "", "Panel.ui"}, {"de_AT", "a", "htm", "Help", "de/Help/a.htm"},
+        {"fr", "a", "htm", "Help", "Help/a.htm"},
+        {"zh-Hans-CN", "a.htm", "", "Help", "zh.lproj/Help/a.htm"},
+        {"de", "b", "htm", "Help", ""}, {"de", "Folder", "nib", "", ""}, {"de", "", "", "", ""},
+        {"de", "../outside", "txt", "", ""}, {"de", "outside", "txt", "Help/../..", ""}};
+    // clang-format on
+    for (const auto &[language, name, type, subdirectory, found] : cases) {
+        Bundle::setLanguages({language});
+        EXPECT_EQ(found.isEmpty() ? QString() : folder.path("Resources/" + found),
+                  bundle->resourcePath(name, type, subdirectory))
+            << name.toStdString();
     }
 }
 
-TEST(Bundle, LooksTextsUpInTheBestLanguageThatHasTheTable) {
-    const TemporaryBundle folder(R"({"CFBundleIdentifier": "test.strings"})");
-    folder.writeTable("Localizable_en", "Title", "English");
-    folder.writeTable("Localizable_de", "Title", "Käse &amp; Brot");
-    folder.writeTable("Localizable01_en", "Title", "Second");
+TEST_F(BundleTest, LooksTextsUpInTheBestLanguageThatHasTheTable) {
+    folder.writeTable("Localizable_en.qm", "English");
+    folder.writeTable("Localizable_de.qm", "Käse &amp; Brot");
+    folder.writeTable("Localizable01_en.qm", "Second");
     folder.write("Resources/Localizable_fr.qm", "no table at all");
-    const auto bundle = Bundle::open(folder.path());
-    const struct {
-        QStringList languages;
-        QString key, table, text;
-    } cases[] = {
-        {{"de"}, "Title", {}, "Käse & Brot"},       {{"de_CH"}, "Title", "", "Käse & Brot"},
-        {{"ja", "de"}, "Title", {}, "Käse & Brot"}, {{"ja"}, "Title", {}, "English"},
-        {{"fr"}, "Title", {}, "English"},           {{"de"}, "Title", "Localizable01", "Second"},
-        {{"de"}, "Other", {}, "fallback"},          {{"de"}, {}, {}, "fallback"},
-        {{"de"}, "Title", "Missing", "fallback"},   {{"de"}, "Title", "../Localizable", "fallback"},
-    };
-    for (const auto &row : cases) {
-        const Languages languages(row.languages);
-        EXPECT_EQ(row.text, bundle->localizedString(row.key, "fallback", row.table))
-            << row.languages.join(' ').toStdString() << ' ' << row.table.toStdString();
+    // clang-format off
+    const std::tuple<QStringList, QString, QString, QString> cases[] = {
+        {{"de_CH"}, "Title", {}, "Käse & Brot"}, {{"ja", "de"}, "Title", "", "Käse & Brot"},
+        {{"ja"}, "Title", {}, "English"},        {{"fr"}, "Title", {}, "English"},
+        {{"de"}, "Other", {}, "fallback"},       {{"de"}, "Title", "Localizable01", "Second"},
+        {{"de"}, "Title", "../Localizable", "fallback"}};
+    // clang-format on
+    for (const auto &[languages, key, table, text] : cases) {
+        Bundle::setLanguages(languages);
+        EXPECT_EQ(text, bundle->localizedString(key, "fallback", table)) << text.toStdString();
     }
-    EXPECT_TRUE(bundle->localizedString("Other", {}).isNull());
 }
-
-} // namespace

@@ -1,6 +1,5 @@
 #include "platform/views/alert.h"
 #include "platform/views/button_view.h"
-#include "platform/views/check_box_view.h"
 #include "platform/views/modal_window.h"
 
 #include <QTest>
@@ -16,13 +15,14 @@ void inside(std::function<void()> act) {
 }
 
 struct Child {
-    QWidget host;
+    std::unique_ptr<QWidget> host = std::make_unique<QWidget>();
+    ButtonView *inHost = new ButtonView(host.get());
     QPointer<ModalWindow> window = new ModalWindow;
     ButtonView *cancel = new ButtonView(window);
     int cancels = 0;
 
     Child() {
-        host.show();
+        host->show();
         window->setCancelButton(cancel);
         cancel->setAction([this] {
             ++cancels;
@@ -34,69 +34,43 @@ struct Child {
 };
 
 TEST(ModalWindow, RunEndsOnEveryRoadAndOnlyAPersonPressesCancel) {
-    const struct {
-        const char *name;
-        void (*act)(Child &);
-        int cancels;
-        bool alive;
-    } cases[] = {
-        {"Escape", [](Child &c) { QTest::keyClick(c.window, Qt::Key_Escape); }, 1, true},
-        {"title bar", [](Child &c) { c.window->close(); }, 1, true},
-        {"Cancel", [](Child &c) { c.cancel->click(); }, 1, true},
-        {"stop", [](Child &c) { c.window->stopModal(); }, 0, true},
-        {"close by code", [](Child &c) { c.window->closeWindow(); }, 0, true},
-        {"hidden", [](Child &c) { c.window->hide(); }, 0, true},
-        {"taken away", [](Child &c) { c.window->setParent(nullptr); }, 0, true},
-        {"without Cancel",
-         [](Child &c) {
-             views::setEnabled(c.cancel, false);
-             QTest::keyClick(c.window, Qt::Key_Escape);
-         },
-         0, true},
-        {"destroyed", [](Child &c) { delete c.window; }, 0, false},
-    };
-    for (const auto &row : cases) {
-        SCOPED_TRACE(row.name);
+    // clang-format off
+    const std::tuple<const char *, void (*)(Child &), int> cases[] = {
+        {"Escape", [](Child &c) { QTest::keyClick(c.window, Qt::Key_Escape); }, 1},
+        {"Escape without Cancel",
+         [](Child &c) { views::setEnabled(c.cancel, false); QTest::keyClick(c.window, Qt::Key_Escape); }, 0},
+        {"title bar", [](Child &c) { c.window->close(); }, 1},
+        {"stop", [](Child &c) { c.window->stopModal(); }, 0},
+        {"close by code", [](Child &c) { c.window->closeWindow(); }, 0},
+        {"hidden", [](Child &c) { c.window->hide(); }, 0},
+        {"taken away", [](Child &c) { c.window->setParent(nullptr); }, 0},
+        {"destroyed", [](Child &c) { delete c.window; }, 0},
+        {"host destroyed", [](Child &c) { c.host.reset(); }, 0}};
+    // clang-format on
+    for (const auto &[name, act, cancels] : cases) {
+        SCOPED_TRACE(name);
         Child child;
-        CheckBoxView inHost(&child.host);
-        QWidget help;
         inside([&] {
             EXPECT_EQ(child.window, ModalWindow::current());
             EXPECT_TRUE(child.window->isVisible() && views::isUsable(child.cancel));
-            EXPECT_TRUE(!views::isUsable(&inHost) && views::isUsable(&help));
-            row.act(child);
+            EXPECT_FALSE(views::isUsable(child.inHost));
+            act(child);
         });
-        child.window->runModal(&child.host);
-        EXPECT_EQ(row.cancels, child.cancels);
-        EXPECT_TRUE(views::isUsable(&inHost));
+        child.window->runModal(child.host.get());
+        EXPECT_EQ(cancels, child.cancels);
         EXPECT_EQ(nullptr, ModalWindow::current());
-        ASSERT_EQ(row.alive, !child.window.isNull());
-        EXPECT_TRUE(!row.alive || (!child.window->isVisible() && !child.window->parentWidget()));
+        EXPECT_TRUE(!child.host || views::isUsable(child.inHost));
+        EXPECT_EQ(QString(name).contains("destroyed"), child.window.isNull());
+        EXPECT_TRUE(!child.window || (!child.window->isVisible() && !child.window->parent()));
     }
 }
 
-TEST(ModalWindow, RunSurvivesItsHostItsParentAndAnInnerRun) {
-    auto host = std::make_unique<QWidget>();
-    QPointer<ModalWindow> window = new ModalWindow;
-    inside([&] { host.reset(); });
-    window->runModal(host.get());
-    EXPECT_FALSE(window); // went with the window that it stood before
-
-    auto parent = std::make_unique<QWidget>();
-    QWidget other;
-    window = new ModalWindow(parent.get());
-    inside([&] { parent.reset(); });
-    window->runModal(&other);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_FALSE(window);
-
-    Child outer;
-    Child inner;
+TEST(ModalWindow, RunSurvivesAnInnerRun) {
+    Child outer, inner;
     inside([&] {
         inside([&] {
             EXPECT_EQ(inner.window, ModalWindow::current());
-            EXPECT_FALSE(views::isUsable(outer.cancel)); // blocked by the inner window
-            EXPECT_TRUE(views::isUsable(inner.cancel));
+            EXPECT_TRUE(views::isUsable(inner.cancel) && !views::isUsable(outer.cancel));
             QTest::keyClick(inner.window, Qt::Key_Escape);
         });
         inner.window->runModal(outer.window);
@@ -104,34 +78,20 @@ TEST(ModalWindow, RunSurvivesItsHostItsParentAndAnInnerRun) {
         EXPECT_TRUE(views::isUsable(outer.cancel));
         outer.window->stopModal();
     });
-    outer.window->runModal(&outer.host);
-    EXPECT_EQ(1, inner.cancels);
-    EXPECT_EQ(0, outer.cancels);
-    EXPECT_FALSE(views::isUsable(outer.cancel)); // its window is off the screen
+    outer.window->runModal(outer.host.get());
+    EXPECT_TRUE(inner.cancels == 1 && outer.cancels == 0);
 }
 
 TEST(Alert, CanBeSeenAndAnswered) {
-    QWidget host;
-    host.show();
-    EXPECT_FALSE(views::dismissAlert());
-    bool seen = false;
+    auto host = std::make_unique<QWidget>();
     inside([&] {
-        seen = views::currentAlert() == "<b>Wrong & bad</b>";
-        inside([&] {
-            EXPECT_EQ("Head\n\nText", views::currentAlert());
-            EXPECT_TRUE(views::dismissAlert());
-        });
-        views::runAlert(nullptr, {}, "Head", "Text", "OK");
-        EXPECT_EQ("<b>Wrong & bad</b>", views::currentAlert());
+        EXPECT_EQ("Head\n\nText", views::currentAlert());
         EXPECT_TRUE(views::dismissAlert());
     });
-    views::runAlert(&host, "/no/such.png", {}, "<b>Wrong & bad</b>", "R&D");
-    EXPECT_TRUE(seen);
-    EXPECT_TRUE(views::currentAlert().isNull());
-
-    auto parent = std::make_unique<QWidget>();
-    inside([&] { parent.reset(); });
-    views::runAlert(parent.get(), {}, {}, "gone with its window", "OK");
+    views::runAlert(host.get(), "/no/such.png", "Head", "Text", "OK");
+    EXPECT_FALSE(views::dismissAlert());
+    inside([&] { host.reset(); });
+    views::runAlert(host.get(), {}, {}, "gone with its window", "OK");
     EXPECT_TRUE(views::currentAlert().isNull());
 }
 

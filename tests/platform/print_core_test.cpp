@@ -6,62 +6,42 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 TEST(PrintCore, KeepsLockedValuesAndRefusesNothingElse) {
     PrintSettings settings;
-    const struct {
-        PMPrintSettings settings;
-        QString key, value;
-        bool locked;
-        PMStatus status;
-    } cases[] = {
-        {&settings, "a", "1", false, kPMNoError},
-        {&settings, "a", "2", true, kPMNoError},
-        {&settings, "a", "3", false, kPMLocked},
-        {&settings, "b", "", false, kPMNoError},
-        {&settings, "b", QString(), false, kPMInvalidParameter},
-        {&settings, "", "1", false, kPMInvalidParameter},
-        {nullptr, "a", "1", false, kPMInvalidParameter},
-    };
-    for (const auto &row : cases)
-        EXPECT_EQ(row.status, PMPrintSettingsSetValue(row.settings, row.key, row.value, row.locked))
-            << row.key.toStdString() << '=' << row.value.toStdString();
-
-    QString value = "before";
-    EXPECT_EQ(kPMNoSuchEntry, PMPrintSettingsGetValue(&settings, "c", &value));
-    EXPECT_EQ("before", value);
+    const std::tuple<QString, QString, bool, PMStatus> cases[] = {
+        {"a", "1", false, kPMNoError}, {"a", "2", true, kPMNoError},
+        {"a", "3", false, kPMLocked},  {"b", {}, false, kPMInvalidParameter},
+        {"b", "", false, kPMNoError},  {"", "1", false, kPMInvalidParameter}};
+    for (const auto &[key, value, locked, status] : cases)
+        EXPECT_EQ(status, PMPrintSettingsSetValue(&settings, key, value, locked))
+            << key.toStdString() << '=' << value.toStdString();
+    QString value;
     EXPECT_EQ(kPMNoError, PMPrintSettingsGetValue(&settings, "a", &value));
     EXPECT_EQ("2", value);
-    EXPECT_EQ(kPMNoError, PMPrintSettingsGetValue(&settings, "b", &value));
-    EXPECT_TRUE(value.isEmpty() && !value.isNull());
-    EXPECT_EQ(kPMInvalidParameter, PMPrintSettingsGetValue(&settings, "a", nullptr));
 }
 
 TEST(Preferences, AreKeptApartByDomainAndReachTheDisk) {
     using namespace preferences;
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                           "/pde-preferences";
-    QDir(folder).removeRecursively();
+    QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                "/pde-preferences");
+    folder.removeRecursively();
+    const auto get = [](const QString &user) {
+        return CFPreferencesCopyValue("a/b.c", "app", user, kCFPreferencesCurrentHost);
+    };
+    const auto set = [](const QString &value, const QString &user) {
+        CFPreferencesSetValue("a/b.c", value, "app", user, kCFPreferencesCurrentHost);
+    };
     const QString users[] = {kCFPreferencesCurrentUser, kCFPreferencesAnyUser, "../someone"};
     for (const QString &user : users)
-        CFPreferencesSetValue("a/b.c", "of " + user, "app", user, kCFPreferencesCurrentHost);
+        set("of " + user, user);
     for (const QString &user : users) {
         EXPECT_TRUE(CFPreferencesSynchronize("app", user, kCFPreferencesCurrentHost));
-        EXPECT_EQ("of " + user,
-                  CFPreferencesCopyValue("a/b.c", "app", user, kCFPreferencesCurrentHost));
+        EXPECT_EQ("of " + user, get(user));
     }
-    EXPECT_EQ(3, QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size());
-    EXPECT_TRUE(CFPreferencesCopyValue("a/b.c", kCFPreferencesAnyApplication, users[0],
-                                       kCFPreferencesCurrentHost)
-                    .isNull());
-    CFPreferencesSetValue("a/b.c", "", "app", users[0], kCFPreferencesCurrentHost);
-    EXPECT_FALSE(
-        CFPreferencesCopyValue("a/b.c", "app", users[0], kCFPreferencesCurrentHost).isNull());
-    CFPreferencesSetValue("a/b.c", {}, "app", users[0], kCFPreferencesCurrentHost);
-    EXPECT_TRUE(
-        CFPreferencesCopyValue("a/b.c", "app", users[0], kCFPreferencesCurrentHost).isNull());
-    QDir(folder).removeRecursively();
+    EXPECT_EQ(3, folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size());
+    set("", users[0]);
+    EXPECT_FALSE(get(users[0]).isNull());
+    set({}, users[0]);
+    EXPECT_TRUE(get(users[0]).isNull());
+    folder.removeRecursively();
 }
-
-} // namespace

@@ -79,6 +79,24 @@ TEST_F(SampleQueuesTest, ColourModeForbidsAndHoldsDown) {
     EXPECT_TRUE(views::isEnabled(type));
 }
 
+TEST_F(SampleQueuesTest, ScreenGoesBackOnAPersonsChangeOnly) {
+    const std::unique_ptr<PDEPanel> panel = openPanel("velmora-mvo-530.ppd");
+    ASSERT_TRUE(panel);
+    auto *screen = panel->panelView()->findChild<PopupView *>("ScreenList");
+    auto *output = panel->panelView()->findChild<PopupView *>("OutputModeList");
+    ASSERT_TRUE(screen && output && screen->chooseItem(1));
+    const QByteArray chosen = host->marked("QZEngineScreen");
+    panel->saveValuesAndReturnError(nullptr);
+    panel->restoreValuesAndReturnError(nullptr);
+    panel->willShow();
+    EXPECT_EQ(host->marked("QZEngineScreen"), chosen);
+    EXPECT_EQ(screen->indexOfSelectedItem(), 1);
+    ASSERT_TRUE(output->chooseItem(output->indexOfSelectedItem() == 0 ? 1 : 0));
+    EXPECT_EQ(screen->indexOfSelectedItem(), 0);
+    EXPECT_EQ(host->marked("QZEngineScreen"),
+              ppdFindOption(ppd.get(), "QZEngineScreen")->defchoice);
+}
+
 TEST_F(SampleQueuesTest, CacheGivesTheConflictsOfThePpd) {
     const auto tableOf = [this](const QString &sample) {
         const std::unique_ptr<PDEPanel> panel = openPanel(sample);

@@ -52,7 +52,7 @@ TEST(HashMultimap, HashesSignedBytesUpToNulIntoPrimes) {
 TEST(HashMultimap, WalksAsATableOfNodesWould) {
     std::mt19937 random(7);
     const auto below = [&](int n) { return static_cast<uint16_t>(random() % n); };
-    for (int round = 0; round < 40; ++round) {
+    for (int round = 0; round < 20; ++round) {
         const size_t asked = below(120);
         hash_multimap table(asked);
         PlainTable plain(asked);
