@@ -9,8 +9,8 @@ setup:
 	@scripts/install-packages
 
 build: setup
-	cmake --preset $(PRESET) > $(PRESET)-configure.log 2>&1 || { cat $(PRESET)-configure.log; exit 1; }
-	@rm -f $(PRESET)-configure.log
+	@mkdir -p build
+	cmake --preset $(PRESET) > build/$(PRESET)-configure.log 2>&1 || { cat build/$(PRESET)-configure.log; exit 1; }
 	cmake --build --preset $(PRESET) -j $(JOBS)
 
 run: build
@@ -20,8 +20,10 @@ test: build
 	QT_QPA_PLATFORM=offscreen ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
 bench: setup
-	$(MAKE) build PRESET=release
-	@echo "no benchmark yet"
+	@mkdir -p build
+	cmake --preset release > build/release-configure.log 2>&1 || { cat build/release-configure.log; exit 1; }
+	cmake --build --preset release -j $(JOBS) --target constraint_table_bench
+	build/release/bin/constraint_table_bench
 
 format:
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i

@@ -37,7 +37,7 @@ CupsServer::CupsServer(const CupsDeadlines &deadlines)
                               deadlines.connectMs, nullptr));
     if (!m_http)
         throw HostError(QStringLiteral("CUPS server ") + m_name,
-                        QStringLiteral("no connection: ") +
+                        QStringLiteral("no CUPS server answers there: ") +
                             QString::fromUtf8(cupsLastErrorString()));
     // A reply that is late is none: the callback's 0 gives the request up.
     httpSetTimeout(
@@ -50,6 +50,9 @@ QString CupsServer::failure() const {
         return QStringLiteral("CUPS server %1 gave no answer within %2 seconds")
             .arg(m_name)
             .arg(m_deadlines.replySeconds);
+    if (error == 0 && cupsLastError() == IPP_STATUS_OK)
+        return QStringLiteral("CUPS server %1 closed the connection or sent no valid answer")
+            .arg(m_name);
     const QString text = QString::fromUtf8(cupsLastErrorString());
     return QStringLiteral("CUPS server %1: %2")
         .arg(m_name, text.isEmpty() ? QString::fromLocal8Bit(std::strerror(error)) : text);

@@ -124,8 +124,6 @@ void PrintDialog::printDocument() {
             tr("PostScript (*.ps)"));
         if (target.isEmpty())
             return;
-        if (isSameFile(target, path))
-            throw HostError(target, QStringLiteral("is the document itself"));
     }
     if (m_hasPanel) {
         m_stage.session().shouldPrint();
@@ -134,7 +132,7 @@ void PrintDialog::printDocument() {
     if (m_isQueue) {
         sendToCups(m_stage, document);
     } else {
-        Outputs outputs;
+        Outputs outputs({path});
         outputs.add(target, writePsJob(m_stage.source().ppd.get(), toPostScript(document),
                                        QFileInfo(path).fileName()));
         outputs.commit();

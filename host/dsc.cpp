@@ -44,11 +44,14 @@ public:
                 return;
         }
         m_end = from;
+        if (m_absent.contains(endComment.toByteArray()))
+            return; // sought before, from a place in front of this one
         for (qsizetype at = from; (at = m_text.indexOf(endComment, at)) >= 0; ++at)
             if (at > 0 && (m_text[at - 1] == '\n' || m_text[at - 1] == '\r')) {
                 m_end = at;
                 return;
             }
+        m_absent.append(endComment.toByteArray());
     }
 
 private:
@@ -64,6 +67,7 @@ private:
     const QByteArray &m_text;
     QByteArrayView m_line;
     qsizetype m_start = 0, m_end = 0;
+    QList<QByteArray> m_absent; ///< end comments that the rest of the text lacks
 };
 
 /// DSC 3.0, "header comments": the header ends at a line that doesn't begin with "%" and a

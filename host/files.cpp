@@ -47,13 +47,19 @@ bool isSameFile(const QString &first, const QString &second) {
     return !path.isEmpty() && path == QFileInfo(second).canonicalFilePath();
 }
 
-Outputs::Outputs() = default;
+Outputs::Outputs(const QStringList &inputs) : m_inputs(inputs) {}
 Outputs::~Outputs() = default;
 
 void Outputs::add(const QString &path, const QByteArray &content) {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
         throw HostError(path, QStringLiteral("is not a regular file"));
+    for (const QString &input : m_inputs)
+        if (isSameFile(path, input))
+            throw HostError(path, QStringLiteral("is read by this command; name another file"));
+    for (const auto &other : m_files)
+        if (QFileInfo(other->fileName()).absoluteFilePath() == info.absoluteFilePath())
+            throw HostError(path, QStringLiteral("is named for two outputs"));
     auto file = std::make_unique<QSaveFile>(path);
     if (!file->open(QIODevice::WriteOnly) || file->write(content) != content.size() ||
         !file->flush())

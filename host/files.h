@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <QPixmap>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -23,17 +24,20 @@ bool isSameFile(const QString &first, const QString &second);
 /// The files that one command writes: all of them appear together, or none does.
 class Outputs {
 public:
-    Outputs();
+    /// @param inputs  files that the command reads, which no output may replace
+    explicit Outputs(const QStringList &inputs = {});
     ~Outputs();
 
     /// Takes a file's content. The file itself, or an older one under its name, is left alone until
     /// the commit.
-    /// @throw HostError if the name can't be written: no such folder, not a regular file, disk full
+    /// @throw HostError if the name can't be written: an input or another output of the command, no
+    ///        such folder, not a regular file, disk full
     void add(const QString &path, const QByteArray &content);
     /// Puts all files in place. @throw HostError
     void commit();
 
 private:
+    QStringList m_inputs;
     std::vector<std::unique_ptr<QSaveFile>> m_files;
 };
 

@@ -14,8 +14,9 @@ namespace host {
 namespace {
 
 void printText(const QByteArray &text) {
-    std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
-    std::fflush(stdout);
+    if (std::fwrite(text.constData(), 1, size_t(text.size()), stdout) != size_t(text.size()) ||
+        std::fflush(stdout) != 0)
+        throw HostError(QStringLiteral("standard output"), QStringLiteral("can't be written"));
 }
 
 } // namespace

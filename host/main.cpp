@@ -8,6 +8,7 @@
 
 #include <QApplication>
 
+#include <csignal>
 #include <cstdio>
 
 #include <unistd.h>
@@ -83,6 +84,7 @@ void run(const host::CommandLine &line) {
 } // namespace
 
 int main(int argc, char **argv) {
+    std::signal(SIGPIPE, SIG_IGN); // a reader that is gone shows as a failed write
     try {
         QStringList arguments;
         for (int i = 1; i < argc; ++i)

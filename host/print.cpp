@@ -44,11 +44,11 @@ void drivePanel(const CommandLine &line, PanelStage &stage, Outputs &outputs) {
 /// The file to write, or null for a job that goes to CUPS.
 QString targetFile(const CommandLine &line) {
     QString target = line.to;
-    if (target.isNull() && line.queue.isNull())
+    if (target.isNull() && line.queue.isNull()) {
         target = QFileInfo(line.document).completeBaseName() + QStringLiteral(".ps");
-    if (isSameFile(target, line.document))
-        throw HostError(target,
-                        QStringLiteral("is the document itself; name another file by --to"));
+        if (QFileInfo::exists(target))
+            throw HostError(target, QStringLiteral("exists; name the file to write by --to"));
+    }
     return target;
 }
 
@@ -72,7 +72,7 @@ void print(const CommandLine &line) {
     PDEPlugin *plugin = loadBundle(line.bundle);
     PanelStage stage(line, *plugin);
     const QString target = targetFile(line);
-    Outputs outputs;
+    Outputs outputs({line.document, line.ppd});
     drivePanel(line, stage, outputs);
     if (!line.ticket.isNull())
         outputs.add(line.ticket, jsonText(ticketJson(stage.callback().settings())));

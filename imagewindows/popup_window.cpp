@@ -7,8 +7,6 @@
 
 PopupWinInPanelKRVImageOptions::~PopupWinInPanelKRVImageOptions() {
     endRun();
-    if (pParentPane)
-        pParentPane->forgetWindow(this);
 }
 
 void PopupWinInPanelKRVImageOptions::PopupWinInPanel(QWidget *window, const QString &winTitle) {

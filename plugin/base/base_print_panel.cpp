@@ -9,8 +9,10 @@
 
 BasePrintPanelKRVImageOptions::BasePrintPanelKRVImageOptions() = default;
 BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() {
-    m_fields.clear(); // the subclass that they belong to is gone
-    BasePrintPanelKRVImageOptions::terminate(); // windows must not look for a panel that is gone
+    m_fields.clear(); // they belong to the subclass, which is gone
+    if (pParentPane)
+        pParentPane->forgetWindow(this);
+    BasePrintPanelKRVImageOptions::terminate();
 }
 
 void BasePrintPanelKRVImageOptions::terminate() {

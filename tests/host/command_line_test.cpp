@@ -42,7 +42,7 @@ TEST(CommandLine, BadInput) {
 
     const struct {
         QStringList arguments;
-        const char *complaint; ///< what follows "pde-host: "
+        QByteArray complaint; ///< what follows "pde-host: "
     } cases[] = {
         {{}, "command: is missing"},
         {{"prnt"}, "prnt: is no command"},
@@ -71,9 +71,12 @@ TEST(CommandLine, BadInput) {
         {{"print", "--ppd", "broken.ppd", document}, "broken.ppd: line 2: Missing asterisk"},
         {{"inspect", "--ppd", "good.ps"}, "good.ps: line 1: Missing"},
         {{"print", "--ppd", ppd, "--bundle", "no.pde", document}, "no.pde: "},
-        {{"print", "--ppd", ppd, "good.ps"}, "good.ps: is the document itself"},
+        {{"print", "--ppd", ppd, "good.ps"}, "good.ps: exists; name the file"},
         {{"print", "--ppd", ppd, "--ticket", "t", "--to", "no/x.ps", document},
          "no/x.ps: can't be"},
+        {{"print", "--ppd", ppd, "--to", "x.ps", "--ticket", "x.ps", document},
+         "x.ps: is named for two"},
+        {{"print", "--ppd", ppd, "--to", document, document}, document.toUtf8() + ": is read by"},
         {{"print", "--ppd", ppd, "--to", "x.ps", "--ticket", ".", document}, ".: is not a regular"},
         {{"dialog", "--ppd", ppd, "no.ps"}, "no.ps: No such file"},
     };

@@ -133,9 +133,9 @@ TEST(Print, BothRoadsGiveTheSame) {
     QTemporaryDir folder;
     QByteArray jobs[2], tickets[2];
     for (const bool shown : {false, true}) {
-        QStringList arguments{"print", "--ppd",          samplePath("velmora-mvo-530.ppd"),
-                              "-o",    "QZBrightness=2", "--ticket",
-                              "t.json"};
+        QStringList arguments{"print",     "--ppd",          samplePath("velmora-mvo-530.ppd"),
+                              "-o",        "QZBrightness=2", "--to",
+                              "sample.ps", "--ticket",       "t.json"};
         if (shown)
             arguments += {"--shown", "--summary", "s.json", "--shot", "s.png", "--language", "en"};
         const HostRun run =
