@@ -9,6 +9,8 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <string>
@@ -21,8 +23,8 @@ const char *const kOptions[] = {"QZColorMode", "QZOutputMode", "QZRGBImageType",
 
 /// A PPD with four options and N constraints that name both choices. Written once for each N.
 std::string ppdWithConstraints(int64_t count) {
-    const std::string path =
-        "/tmp/constraint_bench." + std::to_string(getpid()) + "." + std::to_string(count) + ".ppd";
+    std::string path = (std::filesystem::temp_directory_path() / "bench-XXXXXX").string();
+    close(mkstemp(path.data()));
     std::ofstream out(path);
     out << "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
            "*LanguageEncoding: UTF-8\n*ModelName: \"Bench\"\n*NickName: \"Bench\"\n";

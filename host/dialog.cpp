@@ -132,7 +132,7 @@ void PrintDialog::printDocument() {
     if (m_isQueue) {
         sendToCups(m_stage, document);
     } else {
-        Outputs outputs({path});
+        Outputs outputs({path, m_stage.source().path});
         outputs.add(target, writePsJob(m_stage.source().ppd.get(), toPostScript(document),
                                        QFileInfo(path).fileName()));
         outputs.commit();

@@ -290,7 +290,7 @@ QJsonObject Driver::shot(const QJsonObject &command) {
     if (path.isEmpty())
         return refused(QStringLiteral("\"to\" must be a file's name"));
     QWidget *front = QApplication::activeModalWidget();
-    Outputs outputs;
+    Outputs outputs({m_stage.source().path});
     outputs.add(path, pngContent((front ? front : m_stage.window())->grab()));
     outputs.commit();
     return granted();

@@ -29,6 +29,8 @@ public:
     /// over.
     void skipData(QByteArrayView endComment) {
         const qsizetype from = m_end;
+        if (m_absent.contains(endComment.toByteArray()))
+            return; // sought before, from a place in front of this one
         const QList<QByteArray> words =
             m_line.sliced(m_line.indexOf(':') + 1).toByteArray().simplified().split(' ');
         bool valid = false;
@@ -44,8 +46,6 @@ public:
                 return;
         }
         m_end = from;
-        if (m_absent.contains(endComment.toByteArray()))
-            return; // sought before, from a place in front of this one
         for (qsizetype at = from; (at = m_text.indexOf(endComment, at)) >= 0; ++at)
             if (at > 0 && (m_text[at - 1] == '\n' || m_text[at - 1] == '\r')) {
                 m_end = at;

@@ -107,7 +107,7 @@ QString customChoice(ppd_file_t *ppd, const ppd_option_t &option) {
 
 PpdSource openPpdFile(const QString &path) {
     return {parsePpd(readRegularFile(path, kGreatestPpd), path),
-            Printer{QFileInfo(path).completeBaseName()}};
+            Printer{QFileInfo(path).completeBaseName()}, path};
 }
 
 PpdSource openQueue(CupsServer &server, const QString &queue) {

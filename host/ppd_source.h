@@ -17,6 +17,7 @@ class CupsServer;
 struct PpdSource {
     PpdPtr ppd;
     Printer printer;
+    QString path{}; ///< the file; null for a queue of CUPS
 };
 
 /// Opens a PPD file, plain or gzipped. @throw HostError with the line where libcups refuses the

@@ -72,7 +72,7 @@ void print(const CommandLine &line) {
     PDEPlugin *plugin = loadBundle(line.bundle);
     PanelStage stage(line, *plugin);
     const QString target = targetFile(line);
-    Outputs outputs({line.document, line.ppd});
+    Outputs outputs({line.document, stage.source().path});
     drivePanel(line, stage, outputs);
     if (!line.ticket.isNull())
         outputs.add(line.ticket, jsonText(ticketJson(stage.callback().settings())));

@@ -16,7 +16,7 @@ void PopupWinInPanelKRVImageOptions::PopupWinInPanel(QWidget *window, const QStr
 }
 
 int32_t PopupWinInPanelKRVImageOptions::InitializeUserPane(const Bundle *bundle, ppd_file_t *ppd) {
-    if (ppd != currentPPD)
+    if (currentPPD && ppd != currentPPD)
         LocalizeTableName = QString(); // a table that another PPD named
     if (LocalizeTableName.isNull())
         takeLocalizeTable(ppd);

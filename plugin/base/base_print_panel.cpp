@@ -8,12 +8,7 @@
 #include "ppd/print_session.h"
 
 BasePrintPanelKRVImageOptions::BasePrintPanelKRVImageOptions() = default;
-BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() {
-    m_fields.clear(); // they belong to the subclass, which is gone
-    if (pParentPane)
-        pParentPane->forgetWindow(this);
-    BasePrintPanelKRVImageOptions::terminate();
-}
+BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() = default;
 
 void BasePrintPanelKRVImageOptions::terminate() {
     for (const auto &clearField : m_fields)
@@ -21,9 +16,6 @@ void BasePrintPanelKRVImageOptions::terminate() {
     m_fields.clear();
     fCtrlGroupArray.reset();
     fCtrlInstallableGroupArray.reset();
-    if (fWindowGroupArray)
-        for (BasePrintPanelKRVImageOptions *window : *fWindowGroupArray)
-            window->SetParenetPane(nullptr);
     fWindowGroupArray.reset();
     currentPrintString = QString();
 }
@@ -153,11 +145,6 @@ void BasePrintPanelKRVImageOptions::setPreferDictionary(
         window.setPreferDictionary(user, anyUser);
         return 0;
     });
-}
-
-void BasePrintPanelKRVImageOptions::forgetWindow(const BasePrintPanelKRVImageOptions *window) {
-    if (fWindowGroupArray)
-        _parentPane_num_item -= static_cast<int32_t>(std::erase(*fWindowGroupArray, window));
 }
 
 void BasePrintPanelKRVImageOptions::takeLocalizeTable(ppd_file_t *ppd) {

@@ -75,11 +75,9 @@ public:
     int32_t RunTimeAddNewControl(std::unique_ptr<BaseControlKRVImageOptions> control);
     /// The same without the test of the view, in the list of installable controls.
     int32_t RunTimeAddNewInstallableControl(std::unique_ptr<BaseControlKRVImageOptions> control);
-    /// Registers a child window, which the caller owns. @return the number of windows before it
+    /// Registers a child window, which the caller owns and keeps for as long as the registries are
+    /// in use. @return the number of windows before it
     int32_t RunTimeAddNewWindow(BasePrintPanelKRVImageOptions *window);
-
-    /// Takes a window that is going off the list.
-    void forgetWindow(const BasePrintPanelKRVImageOptions *window);
 
     virtual int32_t SetUIDataToIniData();
     /// Each control shows its default and runs its event before the next; windows keep their
