@@ -1,146 +1,56 @@
 #include "ppd/product_type.h"
 
-#include "ppd/ppd_keys.h"
+#include "ppd/panel_options.h"
 
-const char *const arrayAllKeys[] = {
-    kPPDColorModeKey,
-    kPPDOutputModeKey,
-    kPPDBrightnessKey,
-    kPPDImageTypeKey,
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace {
+
+constexpr size_t kDetectionKeys = 24; ///< the panel's options but the two of the adjustment windows
+
+using KeyArray = std::array<const char *, kDetectionKeys + 1>;
+
+/// The detection keys without those left out, in their order, ended by null.
+template <size_t N>
+constexpr KeyArray keysWithout(const std::array<std::string_view, N> &leftOut) {
+    KeyArray keys{};
+    size_t count = 0;
+    for (size_t i = 0; i < kDetectionKeys; ++i)
+        if (std::find(leftOut.begin(), leftOut.end(), kPanelOptionKeys[i]) == leftOut.end())
+            keys[count++] = kPanelOptionKeys[i];
+    return keys;
+}
+
+constexpr KeyArray kAll = keysWithout(std::array<std::string_view, 0>{});
+constexpr KeyArray kType00_1 = keysWithout(std::array<std::string_view, 5>{
     kPPDRGBColorCorrectionKey,
     kPPDCMYKColorCorrectionKey,
-    kPPDScreenKey,
     kPPDRGBInputProfileKey,
-    kPPDRGBGammaCorrectionKey,
     kPPDColorTemperatureKey,
     kPPDTargetPaperKey,
-    kPPDColorBalanceAdjustmentKey,
-    kPPDColorDensityBlackLowKey,
-    kPPDColorDensityCyanLowKey,
-    kPPDColorDensityMagentaLowKey,
-    kPPDColorDensityYellowLowKey,
-    kPPDColorDensityBlackMidKey,
-    kPPDColorDensityCyanMidKey,
-    kPPDColorDensityMagentaMidKey,
-    kPPDColorDensityYellowMidKey,
-    kPPDColorDensityBlackHighKey,
-    kPPDColorDensityCyanHighKey,
-    kPPDColorDensityMagentaHighKey,
-    kPPDColorDensityYellowHighKey,
-    nullptr,
-};
-
-const char *const arrayType00_1Keys[] = {
-    kPPDColorModeKey,
-    kPPDOutputModeKey,
-    kPPDBrightnessKey,
-    kPPDImageTypeKey,
-    kPPDScreenKey,
-    kPPDRGBGammaCorrectionKey,
-    kPPDColorBalanceAdjustmentKey,
-    kPPDColorDensityBlackLowKey,
-    kPPDColorDensityCyanLowKey,
-    kPPDColorDensityMagentaLowKey,
-    kPPDColorDensityYellowLowKey,
-    kPPDColorDensityBlackMidKey,
-    kPPDColorDensityCyanMidKey,
-    kPPDColorDensityMagentaMidKey,
-    kPPDColorDensityYellowMidKey,
-    kPPDColorDensityBlackHighKey,
-    kPPDColorDensityCyanHighKey,
-    kPPDColorDensityMagentaHighKey,
-    kPPDColorDensityYellowHighKey,
-    nullptr,
-};
-
-const char *const arrayType00_2Keys[] = {
-    kPPDColorModeKey,
-    kPPDOutputModeKey,
-    kPPDBrightnessKey,
-    kPPDImageTypeKey,
-    kPPDRGBColorCorrectionKey,
-    kPPDScreenKey,
-    kPPDRGBInputProfileKey,
-    kPPDRGBGammaCorrectionKey,
-    kPPDColorTemperatureKey,
-    kPPDColorBalanceAdjustmentKey,
-    kPPDColorDensityBlackLowKey,
-    kPPDColorDensityCyanLowKey,
-    kPPDColorDensityMagentaLowKey,
-    kPPDColorDensityYellowLowKey,
-    kPPDColorDensityBlackMidKey,
-    kPPDColorDensityCyanMidKey,
-    kPPDColorDensityMagentaMidKey,
-    kPPDColorDensityYellowMidKey,
-    kPPDColorDensityBlackHighKey,
-    kPPDColorDensityCyanHighKey,
-    kPPDColorDensityMagentaHighKey,
-    kPPDColorDensityYellowHighKey,
-    nullptr,
-};
-
-const char *const arrayType02Keys[] = {
-    kPPDColorModeKey,
-    kPPDOutputModeKey,
-    kPPDBrightnessKey,
-    kPPDImageTypeKey,
-    kPPDRGBColorCorrectionKey,
+});
+constexpr KeyArray kType00_2 = keysWithout(std::array<std::string_view, 2>{
     kPPDCMYKColorCorrectionKey,
-    kPPDScreenKey,
-    kPPDRGBInputProfileKey,
-    kPPDRGBGammaCorrectionKey,
-    kPPDColorTemperatureKey,
-    kPPDColorBalanceAdjustmentKey,
-    kPPDColorDensityBlackLowKey,
-    kPPDColorDensityCyanLowKey,
-    kPPDColorDensityMagentaLowKey,
-    kPPDColorDensityYellowLowKey,
-    kPPDColorDensityBlackMidKey,
-    kPPDColorDensityCyanMidKey,
-    kPPDColorDensityMagentaMidKey,
-    kPPDColorDensityYellowMidKey,
-    kPPDColorDensityBlackHighKey,
-    kPPDColorDensityCyanHighKey,
-    kPPDColorDensityMagentaHighKey,
-    kPPDColorDensityYellowHighKey,
-    nullptr,
-};
-
-const char *const arrayType03Keys[] = {
-    kPPDColorModeKey,
-    kPPDOutputModeKey,
-    kPPDBrightnessKey,
-    kPPDImageTypeKey,
-    kPPDRGBColorCorrectionKey,
-    kPPDCMYKColorCorrectionKey,
-    kPPDScreenKey,
-    kPPDRGBInputProfileKey,
-    kPPDRGBGammaCorrectionKey,
-    kPPDColorTemperatureKey,
     kPPDTargetPaperKey,
-    kPPDColorBalanceAdjustmentKey,
-    kPPDColorDensityBlackLowKey,
-    kPPDColorDensityCyanLowKey,
-    kPPDColorDensityMagentaLowKey,
-    kPPDColorDensityYellowLowKey,
-    kPPDColorDensityBlackMidKey,
-    kPPDColorDensityCyanMidKey,
-    kPPDColorDensityMagentaMidKey,
-    kPPDColorDensityYellowMidKey,
-    kPPDColorDensityBlackHighKey,
-    kPPDColorDensityCyanHighKey,
-    kPPDColorDensityMagentaHighKey,
-    kPPDColorDensityYellowHighKey,
-    nullptr,
-};
+});
+constexpr KeyArray kType02 = keysWithout(std::array<std::string_view, 1>{kPPDTargetPaperKey});
 
-// Type 3, "Type01", is in the list's menu alone: nothing detects it.
+} // namespace
+
+const char *const *const arrayAllKeys = kAll.data();
+const char *const *const arrayType00_1Keys = kType00_1.data();
+const char *const *const arrayType00_2Keys = kType00_2.data();
+const char *const *const arrayType02Keys = kType02.data();
+const char *const *const arrayType03Keys = kAll.data();
+
 const ProductTypeList graphicsPTList[] = {
-    {arrayType00_1Keys, 1}, {arrayType00_2Keys, 2}, {arrayType02Keys, 4},
-    {arrayType03Keys, 5},   {nullptr, 0},
+    {kType00_1.data(), 1}, {kType00_2.data(), 2}, {kType02.data(), 4},
+    {kAll.data(), 5},      {nullptr, 0},
 };
 
-static CPPDChecker checker(arrayAllKeys, graphicsPTList);
+static CPPDChecker checker(kAll.data(), graphicsPTList);
 
 CPPDChecker *CPPDChecker::Instance() {
     return &checker;

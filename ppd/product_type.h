@@ -12,11 +12,11 @@ struct ProductTypeList {
 };
 
 // The options by which products are told apart, and those of each type, each list ended by null.
-extern const char *const arrayAllKeys[];
-extern const char *const arrayType00_1Keys[];
-extern const char *const arrayType00_2Keys[];
-extern const char *const arrayType02Keys[];
-extern const char *const arrayType03Keys[];
+extern const char *const *const arrayAllKeys;
+extern const char *const *const arrayType00_1Keys;
+extern const char *const *const arrayType00_2Keys;
+extern const char *const *const arrayType02Keys;
+extern const char *const *const arrayType03Keys;
 /// The types of this panel.
 extern const ProductTypeList graphicsPTList[];
 
