@@ -28,7 +28,7 @@ bool BaseButtonKRVImageOptions::ReInitializeCtrl(const Bundle *bundle, ppd_file_
 }
 
 bool BaseButtonKRVImageOptions::InitializeTitle(const Bundle *bundle) {
-    if (!controlTitleStrRef)
+    if (!controlTitleStrRef || !bundle)
         return false;
     if (auto *view = qobject_cast<ButtonView *>(ControlPtr.data()))
         view->setTitle(localized(bundle, controlTitleStrRef));

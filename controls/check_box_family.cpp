@@ -5,12 +5,8 @@
 #include "ppd/product_type.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
-
-/// A summary text passes through a buffer of 24 bytes.
-constexpr int kSummaryTextBytes = 23;
 
 const QString kChoiceTrue = QStringLiteral("True");
 const QString kChoiceFalse = QStringLiteral("False");
@@ -30,21 +26,14 @@ CheckBoxView *CheckBoxKRVImageOptions::box() const {
     return qobject_cast<CheckBoxView *>(ControlPtr.data());
 }
 
-std::optional<int32_t> CheckBoxKRVImageOptions::shownState() const {
+std::optional<int32_t> CheckBoxKRVImageOptions::shownValue() const {
     const CheckBoxView *view = box();
     return view ? std::optional(view->intValue()) : std::nullopt;
 }
 
-bool CheckBoxKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
-    BaseControlKRVImageOptions::InitializeCtrl(bundle, ppd);
-    if (!InitializeTitle(bundle))
-        return false;
-    allocateBlocks(CtrlDataBlk::kWordSize);
-    return true;
-}
-
-bool CheckBoxKRVImageOptions::ReInitializeCtrl(const Bundle *bundle, ppd_file_t *) {
-    return InitializeTitle(bundle);
+void CheckBoxKRVImageOptions::showValue(int32_t value) {
+    if (CheckBoxView *view = box())
+        view->setIntValue(value);
 }
 
 bool CheckBoxKRVImageOptions::InitializeTitle(const Bundle *bundle) {
@@ -57,37 +46,10 @@ bool CheckBoxKRVImageOptions::InitializeTitle(const Bundle *bundle) {
     return true;
 }
 
-bool CheckBoxKRVImageOptions::SetControlValueToUI() {
-    CheckBoxView *view = box();
-    if (!ctrlDataBlkPtr || !view)
-        return false;
-    view->setIntValue(ctrlDataBlkPtr->word());
-    return true;
-}
-
 bool CheckBoxKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
-    CheckBoxView *view = box();
-    if (!value || !views::isEnabled(view))
+    if (!value || !views::isEnabled(box()))
         return false;
-    int32_t state;
-    std::memcpy(&state, value, sizeof state);
-    view->setIntValue(state);
-    return true;
-}
-
-CtrlDataBlk *CheckBoxKRVImageOptions::GetValueFromUI() {
-    const std::optional<int32_t> shown = shownState();
-    if (!ctrlUIDataBlkPtr || !shown)
-        return nullptr;
-    ctrlUIDataBlkPtr->setWord(*shown);
-    return ctrlUIDataBlkPtr.get();
-}
-
-bool CheckBoxKRVImageOptions::GetValueToPreset() {
-    const std::optional<int32_t> value = presetNumber();
-    if (!value || !ctrlDataBlkPtr)
-        return false;
-    ctrlDataBlkPtr->setWord(*value);
+    showValue(externalInteger(value));
     return true;
 }
 
@@ -152,7 +114,7 @@ bool PPDCheckBoxKRVImageOptions::GetDefaultValueFromPPD(const QString &choice, i
 }
 
 bool PPDCheckBoxKRVImageOptions::SetControlValueToUI() {
-    const std::optional<int32_t> shown = shownState();
+    const std::optional<int32_t> shown = shownValue();
     if (!ctrlDataBlkPtr || !shown)
         return false;
     if (*shown != ctrlDataBlkPtr->word())
@@ -196,8 +158,8 @@ bool PPDCheckBoxKRVImageOptions::UIEventHandler() {
     if (SetPPD(ppd)) {
         ctrlParentPanelPtr->UpdateConflictsPanelControlFromPPD(ppd);
         valueDidChange = true;
-    } else if (CheckBoxView *view = box(); view && ctrlUIDataBlkPtr) {
-        view->setIntValue(std::max(ctrlUIDataBlkPtr->word(), 0));
+    } else if (ctrlUIDataBlkPtr) {
+        showValue(std::max(ctrlUIDataBlkPtr->word(), 0));
     }
     return walked;
 }
@@ -243,10 +205,8 @@ bool PPDCheckBoxKRVImageOptions::SetDefaultValueToUI() {
 int32_t PPDCheckBoxKRVImageOptions::GetSummaryText(QVariantMap *summary, QStringList *orderArray) {
     if (!ctrlDataBlkPtr)
         return 0;
-    const int32_t row = rowOfValue(ctrlDataBlkPtr->word());
-    if (row < m_ppd.rowCount())
-        m_ppd.addSummaryRow(cutToBytes(m_ppd.ctrlPPDInfoArrayRef[row].label, kSummaryTextBytes),
-                            summary, orderArray);
+    const QString label = m_ppd.label(rowOfValue(ctrlDataBlkPtr->word()));
+    m_ppd.addSummaryRow(cutToBytes(label, kSummaryTextBytes), summary, orderArray);
     return 0;
 }
 
@@ -269,7 +229,7 @@ bool GCheckBoxKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
 }
 
 bool GCheckBoxKRV::SetPPD(ppd_file_t *ppd) {
-    const std::optional<int32_t> shown = shownState();
+    const std::optional<int32_t> shown = shownValue();
     return ppd && m_ppd.kPPDMainKey && shown && PPDMarkOptionByIndex(ppd, *shown);
 }
 

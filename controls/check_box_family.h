@@ -18,20 +18,12 @@ public:
     void CheckBox(CheckBoxView *view, CheckBoxIniData *iniData, const CtrlConstrainInfo *constrain,
                   const CtrlAccessInfo *access, const QString &user);
 
-    /// The title, then the blocks. @return false, without blocks, if there is no title
-    bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
-    /// Only the title. @return as InitializeTitle
-    bool ReInitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
     /// View := the localised title of the record, "no translation" where there is none.
     /// @return false without a bundle; true without a record, with the form's title left
-    virtual bool InitializeTitle(const Bundle *bundle);
+    bool InitializeTitle(const Bundle *bundle) override;
 
-    bool SetControlValueToUI() override;
     /// @return false, with nothing set, for a missing value and a disabled view
     bool SetExternalValueToUI(const void *value, uint32_t size) override;
-    CtrlDataBlk *GetValueFromUI() override;
-    /// Data block := the value under the record's ticket key; the view stays.
-    bool GetValueToPreset() override;
     const void *GetDefaultDataBlk() override;
     const void *GetIniDataBlk() override;
 
@@ -41,7 +33,8 @@ public:
 
 protected:
     CheckBoxView *box() const;
-    std::optional<int32_t> shownState() const override;
+    std::optional<int32_t> shownValue() const override;
+    void showValue(int32_t value) override;
 
     CheckBoxIniData *checkboxctrlIniDataPtr = nullptr;
 };

@@ -1,14 +1,12 @@
 // The list with a static menu.
 
 #include "controls/popup_family.h"
-#include "controls/value_text.h"
 #include "platform/bundle.h"
 #include "platform/views/popup_view.h"
 #include "ppd/conflicts.h"
 #include "services/bundle_identity.h"
 
 #include <algorithm>
-#include <cstring>
 
 void PopupControlKRVImageOptions::CreateControl(PopupView *view, PopupIniData *iniData,
                                                 const CtrlConstrainInfo *constrain,
@@ -52,64 +50,29 @@ bool PopupControlKRVImageOptions::InitializeMenu(const Bundle *bundle, ppd_file_
     return true;
 }
 
-bool PopupControlKRVImageOptions::ConvertToPreferenceString(char *buffer) {
-    return integerToText(ctrlDataBlkPtr.get(), buffer, kPreferenceBufferSize);
+std::optional<int32_t> PopupControlKRVImageOptions::shownValue() const {
+    const PopupView *menu = popup();
+    return menu ? std::optional(menu->indexOfSelectedItem() + 1) : std::nullopt;
 }
 
-bool PopupControlKRVImageOptions::ConvertFromPreferenceString(const char *text) {
-    return integerFromText(text, ctrlDataBlkPtr.get());
-}
-
-bool PopupControlKRVImageOptions::ConvertToTickectData(char *buffer) {
-    return integerToText(ctrlDataBlkPtr.get(), buffer, kTicketBufferSize);
-}
-
-CtrlDataBlk *PopupControlKRVImageOptions::GetValueFromUI() {
-    if (!ctrlUIDataBlkPtr || !popup())
-        return nullptr;
-    ctrlUIDataBlkPtr->setWord(popup()->indexOfSelectedItem() + 1);
-    return ctrlUIDataBlkPtr.get();
-}
-
-CtrlDataBlk *PopupControlKRVImageOptions::GetValueFromControl() {
-    return ctrlDataBlkPtr.get();
-}
-
-bool PopupControlKRVImageOptions::SetControlValueToUI() {
-    if (!ctrlDataBlkPtr || !popup())
-        return false;
-    popup()->selectItemAtIndex(ctrlDataBlkPtr->word() - 1);
-    return true;
+void PopupControlKRVImageOptions::showValue(int32_t value) {
+    if (PopupView *menu = popup())
+        menu->selectItemAtIndex(value - 1);
 }
 
 bool PopupControlKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
     if (!value || !popup())
         return false;
-    int32_t number;
-    std::memcpy(&number, value, sizeof number);
-    popup()->selectItemAtIndex(std::max(number - 1, 0));
+    showValue(std::max(externalInteger(value), 1));
     return true;
-}
-
-void PopupControlKRVImageOptions::SetValueFromUIToControl() {
-    if (ctrlDataBlkPtr && ctrlUIDataBlkPtr && ControlPtr)
-        ctrlDataBlkPtr->setWord(ctrlUIDataBlkPtr->word());
 }
 
 const void *PopupControlKRVImageOptions::GetDefaultDataBlk() {
     return listctrlIniDataPtr ? &listctrlIniDataPtr->defaultValue : nullptr;
 }
 
-uint32_t PopupControlKRVImageOptions::GetDefaultDataSize() {
-    return CtrlDataBlk::kWordSize;
-}
-
 const void *PopupControlKRVImageOptions::GetIniDataBlk() {
     return listctrlIniDataPtr ? &listctrlIniDataPtr->iniValue : nullptr;
-}
-
-uint32_t PopupControlKRVImageOptions::GetIniDataSize() {
-    return CtrlDataBlk::kWordSize;
 }
 
 int32_t PopupControlKRVImageOptions::GetCurrentControlArrayNumber() {
@@ -165,14 +128,6 @@ int32_t PopupControlKRVImageOptions::DoControlConstrain() {
 
 void PopupControlKRVImageOptions::RequestPopupList() {
     RequestControlAction();
-}
-
-bool PopupControlKRVImageOptions::GetValueToPreset() {
-    const std::optional<int32_t> value = presetNumber();
-    if (!value || !ctrlDataBlkPtr)
-        return false;
-    ctrlDataBlkPtr->setWord(*value);
-    return true;
 }
 
 bool PopupControlKRVImageOptions::isChoiceConflicted(std::string key, const QString &option,

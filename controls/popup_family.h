@@ -1,9 +1,8 @@
 #pragma once
 
-#include "controls/base_control.h"
-#include "ppd/choice_row.h"
+#include "controls/integer_control.h"
+#include "controls/ppd_binding.h"
 
-#include <optional>
 #include <string>
 
 class PopupView;
@@ -12,7 +11,7 @@ class PopupView;
 ///
 /// Value: the item's number from 1, 0 for none, in 4-byte blocks; the view counts from 0. A list
 /// without selection counts as showing its first item in the constraint walks.
-class PopupControlKRVImageOptions : public BaseControlKRVImageOptions {
+class PopupControlKRVImageOptions : public IntegerControl {
 public:
     /// @param view       the menu, may be null
     /// @param iniData    the panel's own copy of the record, borrowed for the control's life
@@ -29,19 +28,10 @@ public:
     /// @return true; false without a view to fill
     virtual bool InitializeMenu(const Bundle *bundle, ppd_file_t *ppd);
 
-    bool ConvertToPreferenceString(char *buffer) override;
-    bool ConvertFromPreferenceString(const char *text) override;
-    bool ConvertToTickectData(char *buffer) override;
-
-    CtrlDataBlk *GetValueFromUI() override;
-    CtrlDataBlk *GetValueFromControl() override;
-    bool SetControlValueToUI() override;
+    /// A value below 1 selects the first item, also in a disabled view.
     bool SetExternalValueToUI(const void *value, uint32_t size) override;
-    void SetValueFromUIToControl() override;
     const void *GetDefaultDataBlk() override;
-    uint32_t GetDefaultDataSize() override;
     const void *GetIniDataBlk() override;
-    uint32_t GetIniDataSize() override;
     /// @return the selected item from 0, -1 for none
     int32_t GetCurrentControlArrayNumber() override;
 
@@ -52,8 +42,6 @@ public:
     void RequestPopupList();
     /// The update walk as the base class has it, past what a subclass makes of it.
     int32_t DoBaseControlUpdateConstrain();
-    /// Data block := the value under the record's ticket key.
-    bool GetValueToPreset() override;
 
     /// Whether the constraint table's entries under a key hold the given pair; marks play no part.
     /// @return false without a table or a PPD
@@ -62,6 +50,8 @@ public:
 
 protected:
     PopupView *popup() const;
+    std::optional<int32_t> shownValue() const override;
+    void showValue(int32_t value) override;
     /// The view's value in the constraint walks: at least 1.
     int32_t walkValue();
 
@@ -131,24 +121,17 @@ public:
     /// The same lookup under its other name.
     int32_t GetIndexByStr(const QString &choice) const;
 
-    const QString &title() const { return titleTextRef; }
+    const QString &title() const { return m_ppd.titleTextRef; }
 
 protected:
-    /// The static text that shows the title, or null.
-    BaseControlKRVImageOptions *titleControl() const;
-    /// Rows := the option's choices and their conflicts now; empty without PPD, key or table.
-    void rebuildRows(ppd_file_t *ppd);
     /// The row count as the menu counts it, in 16 bits.
     int32_t rowCount() const;
+    /// A new item at the menu's end; title and keyword are cut at 99 bytes.
+    static void addItem(PopupView &menu, const ChoiceRow &row);
     /// The row of the committed value, or -1.
     int32_t committedRow();
-    /// Adds a row of the summary under the title, if title and text exist.
-    void addSummaryRow(const QString &text, QVariantMap *summary, QStringList *orderArray) const;
 
-    const char *kPPDMainKey = nullptr;
-    std::optional<ChoiceRows> ctrlPPDInfoArrayRef;
-    CtrlTag ctrlIDTitleExPtr = nullptr;
-    QString titleTextRef;
+    PpdBinding m_ppd;
 };
 
 /// A PPD list whose value goes to the host when the job is saved, if it has changed.

@@ -1,5 +1,6 @@
 #include "controls/ppd_binding.h"
 
+#include "controls/base_control.h"
 #include "controls/value_text.h"
 #include "ppd/conflicts.h"
 #include "ppd/ppd_query.h"
@@ -17,6 +18,22 @@ void PpdBinding::takeTitle(ppd_file_t *ppd) {
     titleTextRef = QString();
     if (ppd && kPPDMainKey)
         GetUITitleFromPPD(ppd, kPPDMainKey, titleTextRef);
+}
+
+BaseControlKRVImageOptions *PpdBinding::titleControl(ControlPanel *panel) const {
+    return ctrlIDTitleExPtr && panel ? panel->GetPanelControl(ctrlIDTitleExPtr) : nullptr;
+}
+
+void PpdBinding::showTitle(ControlPanel *panel) const {
+    if (BaseControlKRVImageOptions *control = titleControl(panel)) {
+        const QByteArray text = titleTextRef.toUtf8() + ':';
+        control->SetExternalValueToUI(text.constData(), static_cast<uint32_t>(text.size()));
+    }
+}
+
+void PpdBinding::clearTitle(ControlPanel *panel) const {
+    if (BaseControlKRVImageOptions *control = titleControl(panel))
+        control->SetExternalValueToUI("", 0);
 }
 
 QString PpdBinding::defaultChoice(ppd_file_t *ppd) const {
@@ -56,6 +73,10 @@ void PpdBinding::addSummaryRow(const QString &text, QVariantMap *summary, QStrin
     const QString title = titleBytes < 0 ? titleTextRef : cutToBytes(titleTextRef, titleBytes);
     summary->insert(title, text);
     orderArray->append(title);
+}
+
+QString PpdBinding::label(int64_t row) const {
+    return row >= 0 && row < rowCount() ? ctrlPPDInfoArrayRef[row].label : QString();
 }
 
 QString PpdBinding::choiceAt(const PDEChoiceArray *choices, int64_t index) {

@@ -8,13 +8,15 @@
 #include <QVariantMap>
 
 /// What a control holds of its PPD option: the keyword, the title, and one row for each choice.
+/// Every family that is bound to an option has one.
 ///
 /// Rows, choices and positions are the option's order in the PPD. A missing PPD, keyword or panel
 /// is a miss in every question.
 struct PpdBinding {
     const char *kPPDMainKey = nullptr; ///< outlives the control
     ChoiceRows ctrlPPDInfoArrayRef{};
-    QString titleTextRef{}; ///< null without the option
+    CtrlTag ctrlIDTitleExPtr = nullptr; ///< the static text that shows the title; null for none
+    QString titleTextRef{};             ///< null without the option
 
     int32_t rowCount() const { return static_cast<int32_t>(ctrlPPDInfoArrayRef.size()); }
     /// Rows := the option's choices and their conflicts now; empty without PPD, keyword, panel or
@@ -23,6 +25,12 @@ struct PpdBinding {
     bool rebuild(ppd_file_t *ppd, const ControlPanel *panel);
     /// titleTextRef := the option's title; null without the option.
     void takeTitle(ppd_file_t *ppd);
+    /// The static text that shows the title; null without one.
+    BaseControlKRVImageOptions *titleControl(ControlPanel *panel) const;
+    /// Title control := titleTextRef, with ":" behind it.
+    void showTitle(ControlPanel *panel) const;
+    /// Title control := no text.
+    void clearTitle(ControlPanel *panel) const;
     /// @return the keyword of the option's default choice; null without the option
     QString defaultChoice(ppd_file_t *ppd) const;
     /// @return the first row with that keyword, or -1
@@ -37,6 +45,9 @@ struct PpdBinding {
     /// @param titleBytes  the title's greatest length in UTF-8; -1 for no limit
     void addSummaryRow(const QString &text, QVariantMap *summary, QStringList *orderArray,
                        int titleBytes = -1) const;
+
+    /// The label of a row; null outside.
+    QString label(int64_t row) const;
 
     /// @return the keyword of the choice at an index, as the host is told it; null outside
     static QString choiceAt(const PDEChoiceArray *choices, int64_t index);

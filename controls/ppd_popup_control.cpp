@@ -3,7 +3,6 @@
 #include "controls/popup_family.h"
 #include "controls/value_text.h"
 #include "platform/views/popup_view.h"
-#include "ppd/conflicts.h"
 #include "ppd/ppd_query.h"
 #include "ppd/product_type.h"
 
@@ -20,42 +19,31 @@ void PPDPopupControlKRVImageOptions::CreateControl(PopupView *view, const char *
                                                    const CtrlAccessInfo *access,
                                                    const QString &user, CtrlTag titleControl) {
     PopupControlKRVImageOptions::CreateControl(view, iniData, constrain, access, user);
-    kPPDMainKey = ppdKey;
-    ctrlIDTitleExPtr = titleControl;
-}
-
-void PPDPopupControlKRVImageOptions::rebuildRows(ppd_file_t *ppd) {
-    ctrlPPDInfoArrayRef.emplace();
-    const hash_multimap *table = ctrlParentPanelPtr ? ctrlParentPanelPtr->Getxppd() : nullptr;
-    if (ppd && table && kPPDMainKey)
-        InitializeValueFromPPD(ppd, table, &*ctrlPPDInfoArrayRef, kPPDMainKey);
+    m_ppd = PpdBinding{.kPPDMainKey = ppdKey, .ctrlIDTitleExPtr = titleControl};
 }
 
 int32_t PPDPopupControlKRVImageOptions::rowCount() const {
-    return ctrlPPDInfoArrayRef ? static_cast<uint16_t>(ctrlPPDInfoArrayRef->size()) : 0;
+    return static_cast<uint16_t>(m_ppd.rowCount());
 }
 
 bool PPDPopupControlKRVImageOptions::InitializeMenu(const Bundle *, ppd_file_t *ppd) {
-    rebuildRows(ppd);
-    if (!ppd || !kPPDMainKey || !ctrlParentPanelPtr || !ctrlParentPanelPtr->Getxppd())
+    if (!m_ppd.rebuild(ppd, ctrlParentPanelPtr))
         return false;
     ReInitializeMenu();
     if (popup())
         popup()->selectItemAtIndex(0);
     if (rowCount() > 0) {
-        QString defaultChoice;
-        GetUIDefaultFromPPD(ppd, kPPDMainKey, defaultChoice);
         int32_t value = 0;
-        if (GetDefaultValueFromPPD(defaultChoice, &value) && value > 0) {
+        if (GetDefaultValueFromPPD(m_ppd.defaultChoice(ppd), &value) && value > 0) {
             if (popup())
                 popup()->selectItemAtIndex(0);
             if (listctrlIniDataPtr)
                 listctrlIniDataPtr->defaultValue = static_cast<uint32_t>(value);
         }
-        GetUITitleFromPPD(ppd, kPPDMainKey, titleTextRef);
-        SetTitleWithCFStringEx(titleTextRef);
+        m_ppd.takeTitle(ppd);
+        SetTitleWithCFStringEx(m_ppd.titleTextRef);
     }
-    bindOption(ppd, kPPDMainKey);
+    bindOption(ppd, m_ppd.kPPDMainKey);
     return true;
 }
 
@@ -64,12 +52,13 @@ void PPDPopupControlKRVImageOptions::ReInitializeMenu() {
     if (!menu || rowCount() < 1)
         return;
     menu->removeAllItems();
-    for (int32_t i = 0; i < rowCount(); ++i) {
-        const ChoiceRow &row = (*ctrlPPDInfoArrayRef)[i];
-        menu->addItemWithTitle(cutToBytes(row.label, kMenuTextBytes));
-        menu->setItemRepresentedObject(menu->numberOfItems() - 1,
-                                       cutToBytes(row.choice, kMenuTextBytes));
-    }
+    for (const ChoiceRow &row : m_ppd.ctrlPPDInfoArrayRef.first(rowCount()))
+        addItem(*menu, row);
+}
+
+void PPDPopupControlKRVImageOptions::addItem(PopupView &menu, const ChoiceRow &row) {
+    menu.addItemWithTitle(cutToBytes(row.label, kMenuTextBytes));
+    menu.setItemRepresentedObject(menu.numberOfItems() - 1, cutToBytes(row.choice, kMenuTextBytes));
 }
 
 bool PPDPopupControlKRVImageOptions::SetValueToTicket(PMPrintSettings, bool) {
@@ -81,22 +70,13 @@ bool PPDPopupControlKRVImageOptions::BaseSetValueToTicket(PMPrintSettings settin
     return BaseControlKRVImageOptions::SetValueToTicket(settings, withParam);
 }
 
-BaseControlKRVImageOptions *PPDPopupControlKRVImageOptions::titleControl() const {
-    return ctrlIDTitleExPtr && ctrlParentPanelPtr
-               ? ctrlParentPanelPtr->GetPanelControl(ctrlIDTitleExPtr)
-               : nullptr;
-}
-
 void PPDPopupControlKRVImageOptions::SetTitleWithCFStringEx(const QString &title) {
-    BaseControlKRVImageOptions *control = titleControl();
-    if (control && !title.isNull()) {
-        const QByteArray text = titleTextRef.toUtf8() + ':';
-        control->SetExternalValueToUI(text.constData(), static_cast<uint32_t>(text.size()));
-    }
+    if (!title.isNull())
+        m_ppd.showTitle(ctrlParentPanelPtr);
 }
 
 void PPDPopupControlKRVImageOptions::HideTitleCtrl() {
-    if (BaseControlKRVImageOptions *control = titleControl())
+    if (BaseControlKRVImageOptions *control = m_ppd.titleControl(ctrlParentPanelPtr))
         views::setHidden(control->GetControlPtr(), true);
 }
 
@@ -110,27 +90,17 @@ bool PPDPopupControlKRVImageOptions::ToGetSummaryText() {
 }
 
 int32_t PPDPopupControlKRVImageOptions::committedRow() {
-    if (!ctrlDataBlkPtr || !ctrlPPDInfoArrayRef)
+    if (!ctrlDataBlkPtr)
         return -1;
     const int32_t item = ctrlDataBlkPtr->word() - 1;
     const int32_t row = GetIndexByControl(&item);
-    return row < static_cast<int32_t>(ctrlPPDInfoArrayRef->size()) ? row : -1;
-}
-
-void PPDPopupControlKRVImageOptions::addSummaryRow(const QString &text, QVariantMap *summary,
-                                                   QStringList *orderArray) const {
-    if (text.isNull() || titleTextRef.isNull())
-        return;
-    summary->insert(titleTextRef, text);
-    orderArray->append(titleTextRef);
+    return row < m_ppd.rowCount() ? row : -1;
 }
 
 int32_t PPDPopupControlKRVImageOptions::GetSummaryText(QVariantMap *summary,
                                                        QStringList *orderArray) {
-    if (!ToGetSummaryText() || !summary || !orderArray)
-        return 0;
-    if (const int32_t row = committedRow(); row >= 0)
-        addSummaryRow((*ctrlPPDInfoArrayRef)[row].label, summary, orderArray);
+    if (ToGetSummaryText())
+        m_ppd.addSummaryRow(m_ppd.label(committedRow()), summary, orderArray);
     return 0;
 }
 
@@ -163,40 +133,33 @@ bool PPDPopupControlKRVImageOptions::SetControlValueToUI() {
 }
 
 bool PPDPopupControlKRVImageOptions::GetValueToPreset() {
-    if (!ctrlParentPanelPtr || !m_ptPPDOptions || !ctrlPPDInfoArrayRef)
-        return false;
-    const int32_t index = GetIndexOfMarkedOptionWithKey(
-        m_ptPPDOptions, ctrlParentPanelPtr->GetCurrentPPD(), kPPDMainKey);
-    if (index < 0 || index > static_cast<int32_t>(ctrlPPDInfoArrayRef->size()))
+    const int32_t index = m_ppd.presetIndex(m_ptPPDOptions, ctrlParentPanelPtr);
+    if (index < 0)
         return false;
     if (index < m_ptPPDOptions->num_choices &&
-        !tellHost(kPPDMainKey, QString::fromUtf8(m_ptPPDOptions->choices[index].choice)))
+        !tellHost(m_ppd.kPPDMainKey, QString::fromUtf8(m_ptPPDOptions->choices[index].choice)))
         return false;
     return ConvertFromPresetIndex(index);
 }
 
 bool PPDPopupControlKRVImageOptions::ConvertFromPresetIndex(int32_t index) {
-    if (!ctrlDataBlkPtr || !ctrlPPDInfoArrayRef)
-        return false;
     const int32_t value = index + 1;
-    if (value < 1 || value > static_cast<int32_t>(ctrlPPDInfoArrayRef->size()))
+    if (!ctrlDataBlkPtr || value < 1 || value > m_ppd.rowCount())
         return false;
     ctrlDataBlkPtr->setWord(value);
     return true;
 }
 
 int32_t PPDPopupControlKRVImageOptions::UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) {
-    if (!ctrlPPDInfoArrayRef)
-        return 0;
-    rebuildRows(ppd);
+    m_ppd.rebuild(ppd, ctrlParentPanelPtr);
     if (PopupView *menu = popup())
         for (int32_t i = 0; i < std::min<int32_t>(menu->numberOfItems(), rowCount()); ++i)
-            menu->setItemEnabled(i, !(*ctrlPPDInfoArrayRef)[i].conflicted());
+            menu->setItemEnabled(i, !m_ppd.ctrlPPDInfoArrayRef[i].conflicted());
     return 0;
 }
 
 int32_t PPDPopupControlKRVImageOptions::Open() {
-    ppd_file_t *ppd = ctrlParentPanelPtr ? ctrlParentPanelPtr->GetCurrentPPD() : nullptr;
+    ppd_file_t *ppd = PpdBinding::currentPpd(ctrlParentPanelPtr);
     if (!ppd)
         return 0;
     UpdateConflictsPanelControlFromPPD(ppd);
@@ -208,8 +171,6 @@ int32_t PPDPopupControlKRVImageOptions::Open() {
 
 bool PPDPopupControlKRVImageOptions::GetDefaultValueFromPPD(const QString &choice, int32_t *value) {
     *value = 0;
-    if (!ctrlPPDInfoArrayRef || choice.isNull())
-        return false;
     const int32_t row = GetSFStringArrayIndex(choice);
     if (row < 0)
         return false;
@@ -218,14 +179,14 @@ bool PPDPopupControlKRVImageOptions::GetDefaultValueFromPPD(const QString &choic
 }
 
 bool PPDPopupControlKRVImageOptions::SetPPD(ppd_file_t *ppd) {
-    if (!ppd || !kPPDMainKey)
+    if (!ppd || !m_ppd.kPPDMainKey)
         return false;
     const int32_t item = GetCurrentControlArrayNumber();
     return item < 0 || PPDMarkOptionByIndex(ppd, GetIndexByControl(&item));
 }
 
 bool PPDPopupControlKRVImageOptions::RestorePPD(ppd_file_t *ppd) {
-    if (!ppd || !kPPDMainKey)
+    if (!ppd || !m_ppd.kPPDMainKey)
         return false;
     if (!ctrlDataBlkPtr || ctrlDataBlkPtr->word() < 1)
         return true;
@@ -236,14 +197,12 @@ bool PPDPopupControlKRVImageOptions::RestorePPD(ppd_file_t *ppd) {
 bool PPDPopupControlKRVImageOptions::PPDMarkOptionByIndex(ppd_file_t *ppd, int32_t index) {
     if (!ppd || index < 0 || !m_paPPDChoices || m_paPPDChoices->empty())
         return true;
-    const auto place = static_cast<size_t>(index);
-    return place < m_paPPDChoices->size() &&
-           tellHost(kPPDMainKey, (*m_paPPDChoices)[place].ppdTitle());
+    return tellHost(m_ppd.kPPDMainKey, PpdBinding::choiceAt(m_paPPDChoices.get(), index));
 }
 
 QString PPDPopupControlKRVImageOptions::GetUISelectStr() {
     const int32_t row = committedRow();
-    return row >= 0 ? (*ctrlPPDInfoArrayRef)[row].choice : QString();
+    return row >= 0 ? m_ppd.ctrlPPDInfoArrayRef[row].choice : QString();
 }
 
 int32_t PPDPopupControlKRVImageOptions::GetIndexByControl(const int32_t *item) const {
@@ -251,11 +210,7 @@ int32_t PPDPopupControlKRVImageOptions::GetIndexByControl(const int32_t *item) c
 }
 
 int32_t PPDPopupControlKRVImageOptions::GetSFStringArrayIndex(const QString &choice) const {
-    if (ctrlPPDInfoArrayRef && !choice.isNull())
-        for (qsizetype i = 0; i < ctrlPPDInfoArrayRef->size(); ++i)
-            if ((*ctrlPPDInfoArrayRef)[i].choice == choice)
-                return static_cast<int32_t>(i);
-    return -1;
+    return m_ppd.find(choice);
 }
 
 int32_t PPDPopupControlKRVImageOptions::GetIndexByStr(const QString &choice) const {
@@ -265,35 +220,33 @@ int32_t PPDPopupControlKRVImageOptions::GetIndexByStr(const QString &choice) con
 bool GBasePPDPopupListKRV::SetValueToTicket(PMPrintSettings, bool) {
     if (!ctrlDataBlkPtr || !ctrlParentPanelPtr || !m_paPPDChoices || !valueDidChange)
         return false;
-    const int32_t index = ctrlDataBlkPtr->word() - 1;
-    if (index < 0 || static_cast<size_t>(index) >= m_paPPDChoices->size())
-        return false;
-    if (!tellHost(kPPDMainKey, (*m_paPPDChoices)[static_cast<size_t>(index)].ppdTitle()))
+    if (!tellHost(m_ppd.kPPDMainKey,
+                  PpdBinding::choiceAt(m_paPPDChoices.get(), ctrlDataBlkPtr->word() - 1)))
         return false;
     valueDidChange = false;
     return true;
 }
 
 bool GPPDListCtrlKRV::InitializeMenu(const Bundle *bundle, ppd_file_t *ppd) {
-    PPDKeyIsExist = ppd && kPPDMainKey && CheckPPDKeyIsExist(ppd, kPPDMainKey);
+    PPDKeyIsExist = ppd && m_ppd.kPPDMainKey && CheckPPDKeyIsExist(ppd, m_ppd.kPPDMainKey);
     if (PPDKeyIsExist) {
         if (m_hiddenForMissingKey) {
             m_hiddenForMissingKey = false;
             views::setHidden(ControlPtr, ctrlHideCount > 0);
-            if (BaseControlKRVImageOptions *title = titleControl())
+            if (BaseControlKRVImageOptions *title = m_ppd.titleControl(ctrlParentPanelPtr))
                 views::setHidden(title->GetControlPtr(), title->hideCount() > 0);
         }
         if (!PPDPopupControlKRVImageOptions::InitializeMenu(bundle, ppd))
             return false;
     } else {
         // Nothing of a former PPD may go on answering for an option that this one lacks.
-        ctrlPPDInfoArrayRef.reset();
-        titleTextRef = QString();
+        m_ppd.ctrlPPDInfoArrayRef.clear();
+        m_ppd.titleTextRef = QString();
         bindOption(nullptr, nullptr);
         if (popup())
             popup()->removeAllItems();
     }
-    CPPDChecker::Instance()->AddCheck(kPPDMainKey, rowCount() > 0);
+    CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, rowCount() > 0);
     return true;
 }
 

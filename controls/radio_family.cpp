@@ -5,8 +5,6 @@
 #include "services/bundle_identity.h"
 #include "services/system_version.h"
 
-#include <cstring>
-
 void RadioButtonKRVImageOptions::RadioButton(RadioView *view, RadioButtonIniData *iniData,
                                              const CtrlConstrainInfo *constrain,
                                              const CtrlAccessInfo *access, const QString &user) {
@@ -21,21 +19,14 @@ RadioView *RadioButtonKRVImageOptions::button() const {
     return qobject_cast<RadioView *>(ControlPtr.data());
 }
 
-std::optional<int32_t> RadioButtonKRVImageOptions::shownState() const {
+std::optional<int32_t> RadioButtonKRVImageOptions::shownValue() const {
     const RadioView *view = button();
     return view ? std::optional(view->intValue()) : std::nullopt;
 }
 
-bool RadioButtonKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
-    BaseControlKRVImageOptions::InitializeCtrl(bundle, ppd);
-    if (!InitializeTitle(bundle))
-        return false;
-    allocateBlocks(CtrlDataBlk::kWordSize);
-    return true;
-}
-
-bool RadioButtonKRVImageOptions::ReInitializeCtrl(const Bundle *bundle, ppd_file_t *) {
-    return InitializeTitle(bundle);
+void RadioButtonKRVImageOptions::showValue(int32_t value) {
+    if (RadioView *view = button())
+        view->setIntValue(value);
 }
 
 bool RadioButtonKRVImageOptions::InitializeTitle(const Bundle *bundle) {
@@ -54,31 +45,23 @@ bool RadioButtonKRVImageOptions::SetControlValueToUI() {
         return false;
     if (ctrlDataBlkPtr->word() > 0)
         SetGrpcurRadio();
-    RadioView *view = button();
-    if (!view)
-        return false;
-    view->setIntValue(ctrlDataBlkPtr->word());
-    return true;
+    return TwoStateControl::SetControlValueToUI();
 }
 
 bool RadioButtonKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
     if (!value)
         return false;
-    int32_t state;
-    std::memcpy(&state, value, sizeof state);
-    RadioView *view = button();
-    if (view)
-        view->setIntValue(state);
+    const int32_t state = externalInteger(value);
+    showValue(state);
     if (state > 0)
         SetGrpcurRadio();
-    return views::isEnabled(view);
+    return views::isEnabled(button());
 }
 
 bool RadioButtonKRVImageOptions::setExternalValueToData(const void *value, uint32_t, int32_t) {
     if (!value)
         return true;
-    int32_t state;
-    std::memcpy(&state, value, sizeof state);
+    const int32_t state = externalInteger(value);
     if (ctrlDataBlkPtr)
         ctrlDataBlkPtr->setWord(state);
     if (state > 0)
@@ -87,8 +70,7 @@ bool RadioButtonKRVImageOptions::setExternalValueToData(const void *value, uint3
 }
 
 CtrlDataBlk *RadioButtonKRVImageOptions::GetValueFromUI() {
-    if (const std::optional<int32_t> shown = shownState(); ctrlUIDataBlkPtr && shown)
-        ctrlUIDataBlkPtr->setWord(*shown);
+    TwoStateControl::GetValueFromUI();
     return ctrlUIDataBlkPtr.get();
 }
 
@@ -150,21 +132,17 @@ int32_t RadioButtonKRVImageOptions::Update() {
     int32_t version = 0;
     Gestalt_ALT(kSelectorSysv, &version);
     // Where views may be exclusive, one that is off already still has its constraints to release.
-    if (version < kSystemVersion1080 && shownState().value_or(0) == 0)
+    if (version < kSystemVersion1080 && shownValue().value_or(0) == 0)
         return 0;
-    if (RadioView *view = button())
-        view->setIntValue(0);
+    showValue(0);
     SimulationUIEventHandler();
     return 0;
 }
 
 bool RadioButtonKRVImageOptions::GetValueToPreset() {
-    const std::optional<int32_t> value = presetNumber();
-    if (!value || !ctrlDataBlkPtr)
+    if (!TwoStateControl::GetValueToPreset())
         return false;
-    ctrlDataBlkPtr->setWord(*value);
-    if (RadioView *view = button()) // the view too, unlike a check box
-        view->setIntValue(*value);
+    showValue(ctrlDataBlkPtr->word()); // the view too, unlike a check box
     return true;
 }
 
@@ -202,7 +180,7 @@ const RadioGroupKRVImageOptions::Buttons &RadioGroupKRVImageOptions::buttons() c
 }
 
 bool GRadioButtonKRV::UIEventHandler() {
-    if (ctrlUIDataBlkPtr && shownState() == ctrlUIDataBlkPtr->word())
+    if (ctrlUIDataBlkPtr && shownValue() == ctrlUIDataBlkPtr->word())
         return true;
     return RadioButtonKRVImageOptions::UIEventHandler();
 }
@@ -215,5 +193,5 @@ bool GRadioButtonKRV::InitializeConstrains() {
 }
 
 bool GRadioButtonKRV::IsChecked() const {
-    return shownState() == 1;
+    return shownValue() == 1;
 }

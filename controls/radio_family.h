@@ -23,13 +23,9 @@ public:
                      const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access,
                      const QString &user);
 
-    /// The title, then the blocks. @return false, without blocks, if there is no title
-    bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
-    /// Only the title. @return as InitializeTitle
-    bool ReInitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
     /// View := the record's title from the default strings table, whatever table the panel has.
     /// @return false without a bundle; true without a record, with the form's title left
-    virtual bool InitializeTitle(const Bundle *bundle);
+    bool InitializeTitle(const Bundle *bundle) override;
 
     /// A button that is on becomes the group's current one, even without a view to show it.
     bool SetControlValueToUI() override;
@@ -66,7 +62,8 @@ public:
 
 protected:
     RadioView *button() const;
-    std::optional<int32_t> shownState() const override;
+    std::optional<int32_t> shownValue() const override;
+    void showValue(int32_t value) override;
 
     RadioGroupKRVImageOptions *RadioGrpPtr = nullptr;
     RadioButtonIniData *radiobuttonIniDataPtr = nullptr;

@@ -1,10 +1,7 @@
 #include "controls/slider_family.h"
 
-#include "controls/value_text.h"
 #include "platform/views/slider_view.h"
 #include "ppd/product_type.h"
-
-#include <cstring>
 
 void PPDSliderBarControlKRVImageOptions::CreateControl(SliderView *view, const char *ppdKey,
                                                        SliderBarIniData *iniData,
@@ -20,6 +17,16 @@ void PPDSliderBarControlKRVImageOptions::CreateControl(SliderView *view, const c
 
 SliderView *PPDSliderBarControlKRVImageOptions::slider() const {
     return qobject_cast<SliderView *>(ControlPtr.data());
+}
+
+std::optional<int32_t> PPDSliderBarControlKRVImageOptions::shownValue() const {
+    const SliderView *view = slider();
+    return view ? std::optional(view->intValue()) : std::nullopt;
+}
+
+void PPDSliderBarControlKRVImageOptions::showValue(int32_t value) {
+    if (SliderView *view = slider())
+        view->setIntValue(value);
 }
 
 void PPDSliderBarControlKRVImageOptions::showRange() {
@@ -38,67 +45,31 @@ bool PPDSliderBarControlKRVImageOptions::InitializeCtrl(const Bundle *, ppd_file
     return true;
 }
 
-bool PPDSliderBarControlKRVImageOptions::SetControlValueToUI() {
-    SliderView *view = slider();
-    if (!ctrlDataBlkPtr || !view)
-        return false;
-    view->setIntValue(ctrlDataBlkPtr->word());
-    return true;
-}
-
 bool PPDSliderBarControlKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
-    SliderView *view = slider();
-    if (!value || !views::isEnabled(view))
+    if (!value || !views::isEnabled(slider()))
         return false;
-    int32_t position;
-    std::memcpy(&position, value, sizeof position);
-    view->setIntValue(position);
+    showValue(externalInteger(value));
     return true;
-}
-
-void PPDSliderBarControlKRVImageOptions::SetValueFromUIToControl() {
-    if (ctrlDataBlkPtr && ctrlUIDataBlkPtr && ControlPtr)
-        ctrlDataBlkPtr->setWord(ctrlUIDataBlkPtr->word());
-}
-
-CtrlDataBlk *PPDSliderBarControlKRVImageOptions::GetValueFromUI() {
-    const SliderView *view = slider();
-    if (!ctrlUIDataBlkPtr || !view)
-        return nullptr;
-    ctrlUIDataBlkPtr->setWord(view->intValue());
-    return ctrlUIDataBlkPtr.get();
 }
 
 bool PPDSliderBarControlKRVImageOptions::SetValueToTicket(PMPrintSettings, bool) {
     return true;
 }
 
-CtrlDataBlk *PPDSliderBarControlKRVImageOptions::GetValueFromControl() {
-    return ctrlDataBlkPtr.get();
+bool PPDSliderBarControlKRVImageOptions::ConvertToTickectData(char *buffer) {
+    return BaseControlKRVImageOptions::ConvertToTickectData(buffer);
 }
 
-bool PPDSliderBarControlKRVImageOptions::ConvertFromPreferenceString(const char *text) {
-    return integerFromText(text, ctrlDataBlkPtr.get());
-}
-
-bool PPDSliderBarControlKRVImageOptions::ConvertToPreferenceString(char *buffer) {
-    return integerToText(ctrlDataBlkPtr.get(), buffer, kPreferenceBufferSize);
+bool PPDSliderBarControlKRVImageOptions::GetValueToPreset() {
+    return BaseControlKRVImageOptions::GetValueToPreset();
 }
 
 const void *PPDSliderBarControlKRVImageOptions::GetDefaultDataBlk() {
     return sliderBarIniDataPtr ? &sliderBarIniDataPtr->defaultValue : nullptr;
 }
 
-uint32_t PPDSliderBarControlKRVImageOptions::GetDefaultDataSize() {
-    return CtrlDataBlk::kWordSize;
-}
-
 const void *PPDSliderBarControlKRVImageOptions::GetIniDataBlk() {
     return sliderBarIniDataPtr ? &sliderBarIniDataPtr->iniValue : nullptr;
-}
-
-uint32_t PPDSliderBarControlKRVImageOptions::GetIniDataSize() {
-    return CtrlDataBlk::kWordSize;
 }
 
 void GPPDSliderBarControlKRV::CreateControl(SliderView *view, const char *ppdKey,
@@ -108,7 +79,7 @@ void GPPDSliderBarControlKRV::CreateControl(SliderView *view, const char *ppdKey
                                             CtrlTag titleControl) {
     PPDSliderBarControlKRVImageOptions::CreateControl(view, ppdKey, iniData, constrain, access,
                                                       user);
-    ctrlIDTitleExPtr = titleControl;
+    m_ppd.ctrlIDTitleExPtr = titleControl;
 }
 
 bool GPPDSliderBarControlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
@@ -118,7 +89,7 @@ bool GPPDSliderBarControlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *p
     m_ppd.takeTitle(ppd);
     if (m_ppd.rowCount() == 0) {
         if (hadTitle) // the title of a former PPD
-            SetTitleWithCFStringEx(QLatin1String(""));
+            m_ppd.clearTitle(ctrlParentPanelPtr);
         return CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, false);
     }
     SetTitleWithCFStringEx(m_ppd.titleTextRef);
@@ -160,9 +131,7 @@ bool GPPDSliderBarControlKRV::SetValueToTicket(PMPrintSettings, bool) {
 int32_t GPPDSliderBarControlKRV::GetSummaryText(QVariantMap *summary, QStringList *orderArray) {
     if (!ctrlDataBlkPtr)
         return 0;
-    const int64_t row = rowOfPosition(ctrlDataBlkPtr->word());
-    if (row >= 0 && row < m_ppd.rowCount())
-        m_ppd.addSummaryRow(m_ppd.ctrlPPDInfoArrayRef[row].label, summary, orderArray);
+    m_ppd.addSummaryRow(m_ppd.label(rowOfPosition(ctrlDataBlkPtr->word())), summary, orderArray);
     return 0;
 }
 
@@ -185,12 +154,6 @@ bool GPPDSliderBarControlKRV::GetValueToPreset() {
 }
 
 void GPPDSliderBarControlKRV::SetTitleWithCFStringEx(const QString &title) {
-    BaseControlKRVImageOptions *control =
-        ctrlIDTitleExPtr && ctrlParentPanelPtr
-            ? ctrlParentPanelPtr->GetPanelControl(ctrlIDTitleExPtr)
-            : nullptr;
-    if (control && !title.isNull()) {
-        const QByteArray text = title.isEmpty() ? QByteArray("") : title.toUtf8() + ':';
-        control->SetExternalValueToUI(text.constData(), static_cast<uint32_t>(text.size()));
-    }
+    if (!title.isNull())
+        m_ppd.showTitle(ctrlParentPanelPtr);
 }

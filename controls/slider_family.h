@@ -1,8 +1,7 @@
 #pragma once
 
+#include "controls/integer_control.h"
 #include "controls/ppd_binding.h"
-
-#include "controls/base_control.h"
 
 class SliderView;
 
@@ -10,7 +9,7 @@ class SliderView;
 ///
 /// Value: the position, a whole number around 0, in 4-byte blocks. A move marks nothing: the value
 /// leaves when the job is saved.
-class PPDSliderBarControlKRVImageOptions : public BaseControlKRVImageOptions {
+class PPDSliderBarControlKRVImageOptions : public IntegerControl {
 public:
     /// @param view       the slider, may be null
     /// @param ppdKey     the option's keyword; outlives the control
@@ -24,24 +23,22 @@ public:
 
     /// The record's range, rows and option from the PPD, and the blocks. @return true
     bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
-    /// A value out of range is clamped in the view, silently.
-    bool SetControlValueToUI() override;
     /// @return false, with nothing set, for a missing value and a disabled view
     bool SetExternalValueToUI(const void *value, uint32_t size) override;
-    void SetValueFromUIToControl() override;
-    CtrlDataBlk *GetValueFromUI() override;
     /// Sends nothing: a slider has no ticket entry of its own. @return true
     bool SetValueToTicket(PMPrintSettings settings, bool withParam) override;
-    CtrlDataBlk *GetValueFromControl() override;
-    bool ConvertFromPreferenceString(const char *text) override;
-    bool ConvertToPreferenceString(char *buffer) override;
+    /// There is no ticket text to make. @return true
+    bool ConvertToTickectData(char *buffer) override;
+    /// Nothing is stored under a ticket key. @return as the base class
+    bool GetValueToPreset() override;
     const void *GetDefaultDataBlk() override;
-    uint32_t GetDefaultDataSize() override;
     const void *GetIniDataBlk() override;
-    uint32_t GetIniDataSize() override;
 
 protected:
     SliderView *slider() const;
+    std::optional<int32_t> shownValue() const override;
+    /// A value out of range is clamped, silently.
+    void showValue(int32_t value) override;
     /// View's ends := the record's range.
     void showRange();
 
@@ -79,7 +76,8 @@ public:
     /// Data block := the marked choice's position, or the PPD's default one; the host is told.
     /// @return false without panel, option, mark and default, and on refusal
     bool GetValueToPreset() override;
-    /// Puts the title, with ":" behind it, into the title control.
+    /// Puts the option's title, with ":" behind it, into the title control.
+    /// @param title  null: nothing is done
     void SetTitleWithCFStringEx(const QString &title);
 
     const QString &title() const { return m_ppd.titleTextRef; }
@@ -87,6 +85,4 @@ public:
 protected:
     /// The row of a position; it may lie outside the rows.
     int64_t rowOfPosition(int32_t position) const;
-
-    CtrlTag ctrlIDTitleExPtr = nullptr;
 };

@@ -8,14 +8,6 @@
 
 #include <array>
 #include <cstdio>
-#include <cstring>
-
-namespace {
-
-/// Summary texts pass through a buffer of 24 bytes.
-constexpr int kSummaryTextBytes = 23;
-
-} // namespace
 
 void LittleArrayKRVImageOptions::LittleArrayControl(StepperView *view, LittleArrayIniData *iniData,
                                                     const CtrlConstrainInfo *constrain,
@@ -31,6 +23,11 @@ void LittleArrayKRVImageOptions::LittleArrayControl(StepperView *view, LittleArr
 
 StepperView *LittleArrayKRVImageOptions::stepper() const {
     return qobject_cast<StepperView *>(ControlPtr.data());
+}
+
+std::optional<int32_t> LittleArrayKRVImageOptions::shownValue() const {
+    const StepperView *view = stepper();
+    return view ? std::optional(view->intValue()) : std::nullopt;
 }
 
 void LittleArrayKRVImageOptions::showValue(int32_t value) {
@@ -60,20 +57,11 @@ bool LittleArrayKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t
     return true;
 }
 
-bool LittleArrayKRVImageOptions::SetControlValueToUI() {
-    if (!ctrlDataBlkPtr || !stepper())
-        return false;
-    showValue(ctrlDataBlkPtr->word());
-    return true;
-}
-
 // A held-down stepper takes a value, too, unlike a check box: its number field may be written.
 bool LittleArrayKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
     if (!value || !stepper())
         return false;
-    int32_t number;
-    std::memcpy(&number, value, sizeof number);
-    showValue(number);
+    showValue(externalInteger(value));
     return true;
 }
 
@@ -89,11 +77,9 @@ bool LittleArrayKRVImageOptions::SetValueToTicket(PMPrintSettings settings, bool
 }
 
 bool LittleArrayKRVImageOptions::GetValueToPreset() {
-    const std::optional<int32_t> value = presetNumber();
-    if (!value || !ctrlDataBlkPtr)
+    if (!IntegerControl::GetValueToPreset())
         return false;
-    ctrlDataBlkPtr->setWord(*value);
-    showValue(*value);
+    showValue(ctrlDataBlkPtr->word());
     return true;
 }
 
@@ -112,48 +98,12 @@ int32_t LittleArrayKRVImageOptions::GetSummaryText(QVariantMap *summary, QString
     return 0;
 }
 
-bool LittleArrayKRVImageOptions::ConvertFromPreferenceString(const char *text) {
-    return integerFromText(text, ctrlDataBlkPtr.get());
-}
-
-bool LittleArrayKRVImageOptions::ConvertToPreferenceString(char *buffer) {
-    return integerToText(ctrlDataBlkPtr.get(), buffer, kPreferenceBufferSize);
-}
-
-bool LittleArrayKRVImageOptions::ConvertToTickectData(char *buffer) {
-    return integerToText(ctrlDataBlkPtr.get(), buffer, kTicketBufferSize);
-}
-
-void LittleArrayKRVImageOptions::SetValueFromUIToControl() {
-    if (ctrlDataBlkPtr && ctrlUIDataBlkPtr && ControlPtr)
-        ctrlDataBlkPtr->setWord(ctrlUIDataBlkPtr->word());
-}
-
-CtrlDataBlk *LittleArrayKRVImageOptions::GetValueFromUI() {
-    if (!ctrlUIDataBlkPtr || !stepper())
-        return nullptr;
-    ctrlUIDataBlkPtr->setWord(stepper()->intValue());
-    return ctrlUIDataBlkPtr.get();
-}
-
-CtrlDataBlk *LittleArrayKRVImageOptions::GetValueFromControl() {
-    return ctrlDataBlkPtr.get();
-}
-
 const void *LittleArrayKRVImageOptions::GetIniDataBlk() {
     return littleArrayIniDataPtr ? &littleArrayIniDataPtr->iniValue : nullptr;
 }
 
 const void *LittleArrayKRVImageOptions::GetDefaultDataBlk() {
     return littleArrayIniDataPtr ? &littleArrayIniDataPtr->defaultValue : nullptr;
-}
-
-uint32_t LittleArrayKRVImageOptions::GetDefaultDataSize() {
-    return CtrlDataBlk::kWordSize;
-}
-
-uint32_t LittleArrayKRVImageOptions::GetIniDataSize() {
-    return CtrlDataBlk::kWordSize;
 }
 
 bool LittleArrayKRVImageOptions::SetDefaultValueToUI() {
@@ -166,31 +116,31 @@ void PPDLittleArrayControlKRVImageOptions::PPDLittleArrayControl(
     StepperView *view, LittleArrayIniData *iniData, const char *ppdKey,
     const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access, const QString &user) {
     LittleArrayControl(view, iniData, constrain, access, user, QString());
-    binding.kPPDMainKey = ppdKey;
+    m_ppd.kPPDMainKey = ppdKey;
     lastValue = 0;
 }
 
 bool PPDLittleArrayControlKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
     if (!LittleArrayKRVImageOptions::InitializeCtrl(bundle, ppd))
         return false;
-    binding.rebuild(ppd, ctrlParentPanelPtr);
-    if (binding.rowCount() > 0) {
+    m_ppd.rebuild(ppd, ctrlParentPanelPtr);
+    if (m_ppd.rowCount() > 0) {
         if (littleArrayIniDataPtr)
-            littleArrayIniDataPtr->defaultValue = leadingInteger(binding.defaultChoice(ppd));
-        binding.takeTitle(ppd);
+            littleArrayIniDataPtr->defaultValue = leadingInteger(m_ppd.defaultChoice(ppd));
+        m_ppd.takeTitle(ppd);
     }
-    bindOption(ppd, binding.kPPDMainKey);
+    bindOption(ppd, m_ppd.kPPDMainKey);
     return true;
 }
 
 bool PPDLittleArrayControlKRVImageOptions::GetValueToPreset() {
-    if (!ctrlDataBlkPtr || binding.presetIndex(m_ptPPDOptions, ctrlParentPanelPtr) < 0)
+    if (!ctrlDataBlkPtr || m_ppd.presetIndex(m_ptPPDOptions, ctrlParentPanelPtr) < 0)
         return false;
     ctrlDataBlkPtr->setWord(0);
-    const QString marked = binding.markedChoice(ctrlParentPanelPtr);
+    const QString marked = m_ppd.markedChoice(ctrlParentPanelPtr);
     if (marked.isNull())
         return true;
-    if (!tellHost(binding.kPPDMainKey, marked))
+    if (!tellHost(m_ppd.kPPDMainKey, marked))
         return false;
     lastValue = leadingInteger(marked);
     ctrlDataBlkPtr->setWord(lastValue);
@@ -209,10 +159,10 @@ int32_t PPDLittleArrayControlKRVImageOptions::GetSummaryText(QVariantMap *summar
                                                              QStringList *orderArray) {
     if (!ToGetSummaryText() || !ctrlDataBlkPtr)
         return 0;
-    for (const ChoiceRow &row : binding.ctrlPPDInfoArrayRef)
+    for (const ChoiceRow &row : m_ppd.ctrlPPDInfoArrayRef)
         if (leadingInteger(row.choice) == ctrlDataBlkPtr->word()) {
-            binding.addSummaryRow(cutToBytes(row.label, kSummaryTextBytes), summary, orderArray,
-                                  kSummaryTextBytes);
+            m_ppd.addSummaryRow(cutToBytes(row.label, kSummaryTextBytes), summary, orderArray,
+                                kSummaryTextBytes);
             break;
         }
     return 0;
@@ -234,12 +184,12 @@ bool GBasePPDLittleArrowKRV::SetValueToTicket(PMPrintSettings, bool) {
     if (!isCommittedInRange())
         return false;
     const int64_t index = int64_t{littleArrayIniDataPtr->maxValue} - ctrlDataBlkPtr->word();
-    return tellHost(binding.kPPDMainKey, PpdBinding::choiceAt(m_paPPDChoices.get(), index));
+    return tellHost(m_ppd.kPPDMainKey, PpdBinding::choiceAt(m_paPPDChoices.get(), index));
 }
 
 bool GLittleArrayControlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
     const bool result = GBasePPDLittleArrowKRV::InitializeCtrl(bundle, ppd);
-    CPPDChecker::Instance()->AddCheck(binding.kPPDMainKey, binding.rowCount() > 0);
+    CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, m_ppd.rowCount() > 0);
     return result;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/base_control.h"
+#include "controls/integer_control.h"
 #include "controls/ppd_binding.h"
 
 class StepperView;
@@ -10,7 +10,7 @@ class StepperView;
 /// Value: the number itself, in 4-byte blocks. The arrows can't move exactly when the view still
 /// shows `lastValue`: so `lastValue` follows the view whenever the program sets it, and
 /// is set ahead of it where the view is about to follow.
-class LittleArrayKRVImageOptions : public BaseControlKRVImageOptions {
+class LittleArrayKRVImageOptions : public IntegerControl {
 public:
     /// @param view      the arrows, may be null
     /// @param iniData   the panel's own copy of the record, borrowed for the control's life
@@ -21,7 +21,6 @@ public:
 
     /// Range from the record, and fresh blocks. @return true
     bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
-    bool SetControlValueToUI() override;
     /// View := an int32_t, also in a disabled view. @return false without a view or a value
     bool SetExternalValueToUI(const void *value, uint32_t size) override;
     /// The base class's write, for a value in the record's range.
@@ -34,25 +33,18 @@ public:
     /// The value in tenths under the title, "1.2" for 12.
     int32_t GetSummaryText(QVariantMap *summary, QStringList *orderArray) override;
 
-    bool ConvertFromPreferenceString(const char *text) override;
-    bool ConvertToPreferenceString(char *buffer) override;
-    bool ConvertToTickectData(char *buffer) override;
-    void SetValueFromUIToControl() override;
-    CtrlDataBlk *GetValueFromUI() override;
-    CtrlDataBlk *GetValueFromControl() override;
     /// The view's range. A value that it cuts is followed by lastValue.
     void SetRange(int32_t min, int32_t max);
     const void *GetIniDataBlk() override;
     const void *GetDefaultDataBlk() override;
-    uint32_t GetDefaultDataSize() override;
-    uint32_t GetIniDataSize() override;
     /// Only lastValue := default: the view follows by others' updates. @return true
     bool SetDefaultValueToUI() override;
 
 protected:
     StepperView *stepper() const;
+    std::optional<int32_t> shownValue() const override;
     /// View := a number, as far as its range goes, and lastValue behind it.
-    void showValue(int32_t value);
+    void showValue(int32_t value) override;
     bool isCommittedInRange() const;
 
     LittleArrayIniData *littleArrayIniDataPtr = nullptr;
@@ -82,7 +74,7 @@ public:
     void RequestControlAction() override;
 
 protected:
-    PpdBinding binding;
+    PpdBinding m_ppd;
 };
 
 /// PPD arrows whose committed number goes to the host at every save, changed or not.

@@ -1,38 +1,19 @@
 #include "controls/two_state_control.h"
 
-#include "controls/value_text.h"
-
-bool TwoStateControl::ConvertToPreferenceString(char *buffer) {
-    return integerToText(ctrlDataBlkPtr.get(), buffer, kPreferenceBufferSize);
+bool TwoStateControl::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    BaseControlKRVImageOptions::InitializeCtrl(bundle, ppd);
+    if (!InitializeTitle(bundle))
+        return false;
+    allocateBlocks(CtrlDataBlk::kWordSize);
+    return true;
 }
 
-bool TwoStateControl::ConvertFromPreferenceString(const char *text) {
-    return integerFromText(text, ctrlDataBlkPtr.get());
-}
-
-bool TwoStateControl::ConvertToTickectData(char *buffer) {
-    return integerToText(ctrlDataBlkPtr.get(), buffer, kTicketBufferSize);
-}
-
-CtrlDataBlk *TwoStateControl::GetValueFromControl() {
-    return ctrlDataBlkPtr.get();
-}
-
-void TwoStateControl::SetValueFromUIToControl() {
-    if (ctrlDataBlkPtr && ctrlUIDataBlkPtr && ControlPtr)
-        ctrlDataBlkPtr->setWord(ctrlUIDataBlkPtr->word());
-}
-
-uint32_t TwoStateControl::GetDefaultDataSize() {
-    return CtrlDataBlk::kWordSize;
-}
-
-uint32_t TwoStateControl::GetIniDataSize() {
-    return CtrlDataBlk::kWordSize;
+bool TwoStateControl::ReInitializeCtrl(const Bundle *bundle, ppd_file_t *) {
+    return InitializeTitle(bundle);
 }
 
 std::optional<TwoStateControl::Change> TwoStateControl::change() const {
-    const std::optional<int32_t> shown = shownState();
+    const std::optional<int32_t> shown = shownValue();
     if (!shown || !ctrlUIDataBlkPtr || *shown == ctrlUIDataBlkPtr->word())
         return std::nullopt;
     return Change{ctrlUIDataBlkPtr->word(), *shown};

@@ -19,5 +19,8 @@ bool integerFromText(const char *text, CtrlDataBlk *block);
 /// The number at a text's start, 0 without one: blanks, a sign, digits.
 int32_t leadingInteger(const QString &text);
 
+/// Summary texts of check boxes, steppers and output modes pass through a buffer of 24 bytes.
+inline constexpr int kSummaryTextBytes = 23;
+
 /// The longest start of a text that, as UTF-8, has at most `bytes` bytes and ends at a character.
 QString cutToBytes(const QString &text, int bytes);

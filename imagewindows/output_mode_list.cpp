@@ -12,7 +12,6 @@ namespace {
 /// The mode's keyword begins behind a prefix of the attribute's value.
 constexpr int kMailboxPrefixLength = 4;
 constexpr int kMailboxValueBytes = 255;
-constexpr int kSummaryBytes = 23;
 
 } // namespace
 
@@ -29,8 +28,8 @@ bool GOutputModeListCtrlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *pp
         return true;
     const QString mode = cutToBytes(QString::fromUtf8(attribute->value).mid(kMailboxPrefixLength),
                                     kMailboxValueBytes);
-    MailboxSetValueIndex = 1 + FindPPDKeyPairsMatch(ctrlPPDInfoArrayRef.value_or(ChoiceRows()),
-                                                    QString::fromUtf8(kPPDMainKey), mode);
+    MailboxSetValueIndex = 1 + FindPPDKeyPairsMatch(m_ppd.ctrlPPDInfoArrayRef,
+                                                    QString::fromUtf8(m_ppd.kPPDMainKey), mode);
     IsMailBoxKeyExist = true;
     return true;
 }
@@ -69,12 +68,12 @@ void GOutputModeListCtrlKRV::SetValueFromUIToControl() {
 }
 
 void GOutputModeListCtrlKRV::ResetCFStringEx() {
-    if (BaseControlKRVImageOptions *title = titleControl())
+    if (BaseControlKRVImageOptions *title = m_ppd.titleControl(ctrlParentPanelPtr))
         title->ResetStatus();
 }
 
 void GOutputModeListCtrlKRV::DisableCFStringEx() {
-    if (BaseControlKRVImageOptions *title = titleControl())
+    if (BaseControlKRVImageOptions *title = m_ppd.titleControl(ctrlParentPanelPtr))
         title->Disable();
 }
 
@@ -92,14 +91,12 @@ int32_t GOutputModeListCtrlKRV::UpdateConflictsPanelControlFromPPD(ppd_file_t *p
 }
 
 int32_t GOutputModeListCtrlKRV::GetSummaryText(QVariantMap *summary, QStringList *orderArray) {
-    if (!ToGetSummaryText() || !summary || !orderArray || !ctrlDataBlkPtr || !ctrlPPDInfoArrayRef)
+    if (!ToGetSummaryText() || !ctrlDataBlkPtr)
         return 0;
-    const int32_t row = isForced() ? MailboxSetValueIndex - 1 : committedRow();
-    if (row < 0 || row >= static_cast<int32_t>(ctrlPPDInfoArrayRef->size()))
-        return 0;
-    const QString &label = (*ctrlPPDInfoArrayRef)[row].label;
-    addSummaryRow(label.toUtf8().size() <= kSummaryBytes ? label : QLatin1String(""), summary,
-                  orderArray);
+    QString label = m_ppd.label(isForced() ? MailboxSetValueIndex - 1 : committedRow());
+    if (label.toUtf8().size() > kSummaryTextBytes)
+        label = QLatin1String("");
+    m_ppd.addSummaryRow(label, summary, orderArray);
     return 0;
 }
 

@@ -1,6 +1,5 @@
 #include "imagewindows/rgb_correction_list.h"
 
-#include "controls/value_text.h"
 #include "platform/views/popup_view.h"
 #include "ppd/ppd_query.h"
 
@@ -8,7 +7,6 @@
 
 namespace {
 
-constexpr int kMenuTextBytes = 99;
 const QString kNone = QStringLiteral("None");
 const QString kPerceptual = QStringLiteral("Perceptual");
 
@@ -22,12 +20,11 @@ void RGBCorrectionRowList::ReInitializeMenu() {
     const int32_t none = GetSFStringArrayIndex(kNone);
     const int32_t withoutItem = std::max(none, 0);
     for (int32_t i = 0; i < rowCount(); ++i) {
-        const ChoiceRow &row = (*ctrlPPDInfoArrayRef)[i];
+        const ChoiceRow &row = m_ppd.ctrlPPDInfoArrayRef[i];
         int32_t item = -1;
         if (i != withoutItem) {
             item = menu->numberOfItems();
-            menu->addItemWithTitle(cutToBytes(row.label, kMenuTextBytes));
-            menu->setItemRepresentedObject(item, cutToBytes(row.choice, kMenuTextBytes));
+            addItem(*menu, row);
         }
         if (row.conflicted())
             menu->setItemEnabled(conflictItem(i, item), false);
@@ -41,12 +38,10 @@ void RGBCorrectionRowList::ReInitializeMenu() {
 }
 
 int32_t RGBCorrectionRowList::UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) {
-    if (!ctrlPPDInfoArrayRef)
-        return 0;
-    rebuildRows(ppd);
+    m_ppd.rebuild(ppd, ctrlParentPanelPtr);
     if (PopupView *menu = popup())
         for (int32_t i = 1; i < rowCount() && i <= menu->numberOfItems(); ++i)
-            menu->setItemEnabled(i - 1, !(*ctrlPPDInfoArrayRef)[i].conflicted());
+            menu->setItemEnabled(i - 1, !m_ppd.ctrlPPDInfoArrayRef[i].conflicted());
     return 0;
 }
 
@@ -56,8 +51,7 @@ int32_t RGBCorrectionRowList::GetIndexByControl(const int32_t *item) const {
 
 bool RGBCorrectionRowList::ConvertFromPresetIndex(int32_t index) {
     m_presetIsRow0 = index == 0;
-    if (!ctrlDataBlkPtr || !ctrlPPDInfoArrayRef || index < 1 ||
-        index > static_cast<int32_t>(ctrlPPDInfoArrayRef->size()))
+    if (!ctrlDataBlkPtr || index < 1 || index > m_ppd.rowCount())
         return false;
     ctrlDataBlkPtr->setWord(index);
     return true;
@@ -81,7 +75,7 @@ bool RGBCorrectionRowList::GetDefaultValueFromPPD(const QString &choice, int32_t
 }
 
 bool RGBCorrectionRowList::RestorePPD(ppd_file_t *ppd) {
-    if (!ppd || !kPPDMainKey)
+    if (!ppd || !m_ppd.kPPDMainKey)
         return false;
     const int32_t row = ctrlDataBlkPtr ? ctrlDataBlkPtr->word() : -1;
     return row < 0 || PPDMarkOptionByIndex(ppd, row);
@@ -108,17 +102,15 @@ int32_t RGBCorrectionListCtrlKRV::conflictItem(int32_t, int32_t item) const {
 bool RGBCorrectionListCtrlKRV::SetValueToTicket(PMPrintSettings, bool) {
     if (!ctrlDataBlkPtr || !ctrlParentPanelPtr || !m_paPPDChoices)
         return false;
-    const auto choices = static_cast<int32_t>(m_paPPDChoices->size());
     // A view that the host has destroyed shows nothing any more; the committed value stands.
     int32_t value = popup() ? GetCurrentControlArrayNumber() + 1 : ctrlDataBlkPtr->word();
     if (ctrlParentPanelPtr->isPrinting() && (!ctrlParentPanelPtr->IsAdvancedSettingAvailable() ||
                                              !ctrlParentPanelPtr->IsColorModeAvailable())) {
         const int32_t none = GetSFStringArrayIndex(kNone);
-        if (none >= 0 && none < choices)
+        if (!PpdBinding::choiceAt(m_paPPDChoices.get(), none).isNull())
             value = none;
     }
-    return value >= 0 && value < choices &&
-           tellHost(kPPDMainKey, (*m_paPPDChoices)[static_cast<size_t>(value)].ppdTitle());
+    return tellHost(m_ppd.kPPDMainKey, PpdBinding::choiceAt(m_paPPDChoices.get(), value));
 }
 
 int32_t RGBCorrectionListCtrlIAKRV::conflictItem(int32_t row, int32_t) const {

@@ -8,7 +8,24 @@
 #include "ppd/print_session.h"
 
 BasePrintPanelKRVImageOptions::BasePrintPanelKRVImageOptions() = default;
-BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() = default;
+
+BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() {
+    leaveParent();
+    releaseWindows();
+}
+
+void BasePrintPanelKRVImageOptions::leaveParent() {
+    if (pParentPane && pParentPane->fWindowGroupArray)
+        std::erase(*pParentPane->fWindowGroupArray, this);
+    pParentPane = nullptr;
+}
+
+void BasePrintPanelKRVImageOptions::releaseWindows() {
+    if (fWindowGroupArray)
+        for (BasePrintPanelKRVImageOptions *window : *fWindowGroupArray)
+            window->pParentPane = nullptr;
+    fWindowGroupArray.reset();
+}
 
 void BasePrintPanelKRVImageOptions::terminate() {
     for (const auto &clearField : m_fields)
@@ -16,7 +33,7 @@ void BasePrintPanelKRVImageOptions::terminate() {
     m_fields.clear();
     fCtrlGroupArray.reset();
     fCtrlInstallableGroupArray.reset();
-    fWindowGroupArray.reset();
+    releaseWindows();
     currentPrintString = QString();
 }
 
@@ -29,10 +46,11 @@ void BasePrintPanelKRVImageOptions::CreatePanel(QWidget *window) {
     m_fields.clear();
     fCtrlGroupArray.emplace();
     fCtrlInstallableGroupArray.emplace();
+    releaseWindows();
     fWindowGroupArray.emplace();
     AllGroupNameStrArray.clear();
     GeneralGroupOptionArray.clear();
-    pParentPane = nullptr;
+    leaveParent();
     pdeBundleRef = nullptr;
     isRegistPrintEvent = false;
     currentPrintString = QString();
@@ -81,6 +99,7 @@ int32_t BasePrintPanelKRVImageOptions::RunTimeAddNewInstallableControl(
 int32_t BasePrintPanelKRVImageOptions::RunTimeAddNewWindow(BasePrintPanelKRVImageOptions *window) {
     if (!window || !fWindowGroupArray)
         return 0;
+    window->leaveParent();
     window->SetParenetPane(this);
     fWindowGroupArray->push_back(window);
     return _parentPane_num_item++;

@@ -75,8 +75,8 @@ public:
     int32_t RunTimeAddNewControl(std::unique_ptr<BaseControlKRVImageOptions> control);
     /// The same without the test of the view, in the list of installable controls.
     int32_t RunTimeAddNewInstallableControl(std::unique_ptr<BaseControlKRVImageOptions> control);
-    /// Registers a child window, which the caller owns and keeps for as long as the registries are
-    /// in use. @return the number of windows before it
+    /// Registers a child window, which the caller owns. It leaves a former parent, and leaves this
+    /// one when it is destroyed. @return the number of windows registered before it
     int32_t RunTimeAddNewWindow(BasePrintPanelKRVImageOptions *window);
 
     virtual int32_t SetUIDataToIniData();
@@ -196,6 +196,10 @@ protected:
 private:
     /// Each clears one pointer of the panel to a control that the registry owns.
     std::vector<std::function<void()>> m_fields;
+    /// The parent, if any, forgets this window, and this window its parent.
+    void leaveParent();
+    /// The windows are forgotten, and forget this parent.
+    void releaseWindows();
     bool takePrinterString(PMPrintSession session);
     int32_t preferenceResult(bool last, int32_t windowReply) const;
 };

@@ -119,7 +119,11 @@ TEST_F(CheckBoxTest, OnlyTheCheckedBoxReportsAndAMissingOptionIsHarmless) {
     EXPECT_TRUE(reported(kKey));
     EXPECT_EQ(summary(), QStringList("T=Twenty-two bytes long.")) << "cut at a whole character";
 
-    auto *box = build<GCheckBoxKRV>("");
+    auto *box = build<GCheckBoxKRV>(ppdOption(kKey, {"False", "True"}, "True"));
+    EXPECT_EQ(box->GetValueFromControl()->word(), 1);
+    ASSERT_TRUE(box->InitializeCtrl(nullptr, openPpdText("").get()));
+    EXPECT_EQ(box->GetValueFromControl(), nullptr) << "no value of a former PPD";
+    box = build<GCheckBoxKRV>("");
     EXPECT_FALSE(reported(kKey));
     boxView->click();
     panel.Open();

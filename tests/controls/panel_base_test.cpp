@@ -48,6 +48,17 @@ TEST_F(PanelBaseTest, TagsResolveDownwardsOnly) {
     EXPECT_TRUE(panel.SetCurrentPrintSettings(&other, ppd.get(), host.get(), &host->session));
     EXPECT_EQ(child.GetCurrentPMPrintSettings(), &other);
     EXPECT_EQ(child.GetCurrentPrinterString(), "Queue");
+    {
+        BasePrintPanelKRVImageOptions second;
+        second.CreatePanel(&window);
+        EXPECT_EQ(panel.RunTimeAddNewWindow(&second), 1);
+        second.RunTimeAddNewWindow(&child);
+        EXPECT_EQ(child.GetParentWnd(), &second) << "it leaves the former parent";
+        panel.Open();
+    }
+    EXPECT_EQ(child.GetParentWnd(), nullptr);
+    EXPECT_FALSE(panel.GetPanelControl(&c));
+    panel.Open();
 }
 
 TEST_F(PanelBaseTest, SweepsKeepTheirOrder) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "controls/popup_family.h"
-#include "platform/bundle.h"
 #include "platform/kernel_release.h"
 #include "platform/views/popup_view.h"
 #include "platform/views/text_view.h"
@@ -10,11 +9,9 @@
 #include "ppd/product_type.h"
 #include "support/ppd_text.h"
 #include "support/test_host.h"
+#include "support/text_bundle.h"
 
-#include <QDir>
-#include <QFile>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -61,15 +58,6 @@ class PanelTest : public testing::Test {
 protected:
     using Calls = QList<QPair<QString, QString>>;
 
-    PanelTest() {
-        QDir(folder.path()).mkpath("Resources");
-        QFile info(folder.filePath("Info.json"));
-        EXPECT_TRUE(info.open(QIODevice::WriteOnly));
-        info.write(R"({"CFBundleIdentifier": "test.text", "CFBundleVersion": "2.5 Build 7"})");
-        info.close();
-        bundle = Bundle::open(folder.path());
-        EXPECT_TRUE(bundle);
-    }
     void TearDown() override { setKernelRelease("19.6.0"); }
     void open(const QByteArray &body) {
         ppd = openPpdText(body);
@@ -124,8 +112,7 @@ protected:
         return control->SetValueToTicket(&host->settings, false);
     }
 
-    QTemporaryDir folder;
-    std::shared_ptr<Bundle> bundle; ///< has a version, and no string: every text is the fallback
+    TextBundle bundle;
     QWidget window;
     PpdPtr ppd;
     std::shared_ptr<TestHost> host;

@@ -136,26 +136,4 @@ TEST_F(PopupTest, SummaryLeavesOutWhatIsHeldDown) {
     EXPECT_EQ(summary(), both.last(1));
 }
 
-TEST_F(PanelTest, PlainListGoesToTheTicketAndThePreferences) {
-    open("");
-    const CtrlAccessInfo access{.ticketKey = "list.key"};
-    const char *const menuKeys[] = {"A", "B", "C", nullptr};
-    PopupIniData record{.defaultValue = 2, .iniValue = -1, .menuKeys = menuKeys};
-    auto *menu = view<PopupView>(1);
-    PopupControlKRVImageOptions list;
-    list.CreateControl(menu, &record, nullptr, &access, kControlUserCurrent);
-    list.SetParenetPanel(&panel);
-    ASSERT_TRUE(list.InitializeCtrl(nullptr, nullptr));
-    EXPECT_EQ(menu->itemTitle(2), "C") << "a key without translation shows itself";
-    EXPECT_FALSE(list.GetValueToPreset());
-    host->settings.set("list.key", "3x", false);
-    EXPECT_TRUE(list.GetValueToPreset());
-    EXPECT_EQ(list.GetValueFromControl()->word(), 3);
-    EXPECT_TRUE(list.ConvertFromPreferenceString("1"));
-    EXPECT_TRUE(list.SetControlValueToUI());
-    EXPECT_EQ(menu->indexOfSelectedItem(), 0);
-    EXPECT_TRUE(save(&list));
-    EXPECT_EQ(host->settings.find("list.key")->value, "1");
-}
-
 } // namespace

@@ -109,6 +109,11 @@ TEST_F(SliderTest, WithoutTheOptionTheRecordsRangeStays) {
     EXPECT_FALSE(save(slider) || slider->GetValueToPreset());
     panel.Open();
     EXPECT_EQ(summary(), QStringList());
+
+    build(brightness(3));
+    EXPECT_EQ(titleView->stringValue(), "Brightness:");
+    slider->InitializeCtrl(nullptr, openPpdText("").get());
+    EXPECT_EQ(titleView->stringValue(), "") << "no title of a former PPD";
 }
 
 } // namespace

@@ -55,6 +55,12 @@ TEST_F(ListsTest, RgbMenuLeavesNoneOut) {
         EXPECT_EQ(items(child), row.childMenu);
         EXPECT_EQ(*static_cast<const int *>(list->GetDefaultDataBlk()), row.defaultValue);
         EXPECT_EQ(list->GetUISelectStr(), row.standard) << "the marked row, item or not";
+
+        panel.UpdateConflictsPanelControlFromPPD(ppd.get());
+        EXPECT_EQ(items(list), row.childMenu);
+        markChoice(ppd.get(), "QZX", "B");
+        panel.UpdateConflictsPanelControlFromPPD(ppd.get());
+        EXPECT_FALSE(items(list).contains('-'));
     }
 }
 

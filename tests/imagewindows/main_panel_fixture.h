@@ -4,6 +4,7 @@
 #include "platform/views/popup_view.h"
 #include "support/ppd_text.h"
 #include "support/test_host.h"
+#include "support/text_bundle.h"
 
 #include <gtest/gtest.h>
 
@@ -52,7 +53,7 @@ protected:
         xSetxppd(ppd.get(), table.get());
         panel.SetxppdPtr(table);
         panel.SetCurrentPrintSettings(&host->settings, ppd.get(), host.get(), &host->session);
-        panel.InitializeUserPane(nullptr, ppd.get());
+        panel.InitializeUserPane(bundle.get(), ppd.get());
         panel.SetUIDataToIniData();
         panel.GetValueFromPreset();
         panel.SetCurrentValueToUI();
@@ -92,6 +93,7 @@ protected:
         return order.isEmpty() ? QString() : rows[order[0]].toString();
     }
 
+    TextBundle bundle;
     QWidget view;
     QWidget *windowView = nullptr; ///< null: the window's controls stand in the panel's view
     PpdPtr ppd;

@@ -146,13 +146,25 @@ TEST_F(WindowTest, RunsNestAndSurviveTheirOwner) {
 }
 
 TEST_F(WindowTest, SettingsButtonAsksForTheFormByOneOption) {
-    open(ppdOption("QZBlackOverprint", {"False", "True"}));
-    panel.blackOver = window.get();
-    opener = addButton<GImageSettingsButtonKRV>(panel);
-    start();
-    EXPECT_TRUE(run([&] { window->DeactivateWindow(); }));
-    std::swap(panel.blackOver, panel.plain);
-    EXPECT_FALSE(run([] {})) << "the form that stands isn't the one asked for";
+    // clang-format off
+    const struct { const char *option; bool asksBlackOver; } rows[] = {
+        {"QZBlackOverprint", true},
+        {"QZInvalidateColorProfile", false},
+        {"QZOther", false},
+    };
+    // clang-format on
+    for (const auto &[option, asksBlackOver] : rows) {
+        SCOPED_TRACE(option);
+        open(ppdOption(option, {"False", "True"}));
+        opener = addButton<GImageSettingsButtonKRV>(panel);
+        start();
+        for (const bool blackOver : {true, false}) {
+            panel.blackOver = blackOver ? window.get() : nullptr;
+            panel.plain = blackOver ? nullptr : window.get();
+            EXPECT_EQ(run([&] { window->DeactivateWindow(); }), blackOver == asksBlackOver);
+        }
+        delete opener;
+    }
 }
 
 TEST_F(WindowTest, AdjustmentOkMirrorsAndCancelPutsMarksBack) {
