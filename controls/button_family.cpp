@@ -45,7 +45,12 @@ void GHelpButtonKRV::CreateControlWithHelpName(ButtonView *view, const QString &
         helpfilename = m_baseName = helpName;
 }
 
-bool GHelpButtonKRV::InitializeCtrl(const Bundle *, ppd_file_t *ppd) {
+bool GHelpButtonKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {
+    BaseControlKRVImageOptions::InitializeCtrl(bundle, ppd);
+    // The form's own title stays where the tables have none.
+    if (const QString title = localized(bundle, "Help Button Text"); title != kNoTranslation)
+        if (auto *view = qobject_cast<ButtonView *>(ControlPtr.data()))
+            view->setTitle(title);
     helpfilename = m_baseName;
     const ppd_attr_t *attribute =
         ppd ? findVendorAttribute(ppd, kQZProductTypeImageOptions) : nullptr;

@@ -113,15 +113,6 @@ bool PPDCheckBoxKRVImageOptions::GetDefaultValueFromPPD(const QString &choice, i
     return !choice.isNull();
 }
 
-bool PPDCheckBoxKRVImageOptions::SetControlValueToUI() {
-    const std::optional<int32_t> shown = shownValue();
-    if (!ctrlDataBlkPtr || !shown)
-        return false;
-    if (*shown != ctrlDataBlkPtr->word())
-        valueDidChange = true;
-    return CheckBoxKRVImageOptions::SetControlValueToUI();
-}
-
 int32_t PPDCheckBoxKRVImageOptions::rowOfValue(int32_t value) const {
     const bool falseFirst =
         m_ppd.rowCount() > 0 && m_ppd.ctrlPPDInfoArrayRef[0].choice == kChoiceFalse;
@@ -164,14 +155,6 @@ bool PPDCheckBoxKRVImageOptions::UIEventHandler() {
     return walked;
 }
 
-bool PPDCheckBoxKRVImageOptions::SetValueToTicket(PMPrintSettings, bool) {
-    return true;
-}
-
-bool PPDCheckBoxKRVImageOptions::BaseSetValueToTicket(PMPrintSettings settings, bool withParam) {
-    return BaseControlKRVImageOptions::SetValueToTicket(settings, withParam);
-}
-
 bool PPDCheckBoxKRVImageOptions::GetValueToPreset() {
     if (m_ppd.presetIndex(m_ptPPDOptions, ctrlParentPanelPtr) < 0)
         return false;
@@ -182,24 +165,6 @@ bool PPDCheckBoxKRVImageOptions::GetValueToPreset() {
         return false;
     ctrlDataBlkPtr->setWord(marked == kChoiceTrue ? 1 : 0);
     return true;
-}
-
-int32_t PPDCheckBoxKRVImageOptions::Open() {
-    ppd_file_t *ppd = PpdBinding::currentPpd(ctrlParentPanelPtr);
-    if (!ppd)
-        return 0;
-    UpdateConflictsPanelControlFromPPD(ppd);
-    GetValueToPreset();
-    SetControlValueToUI();
-    SimulationUIEventHandler();
-    return 0;
-}
-
-bool PPDCheckBoxKRVImageOptions::SetDefaultValueToUI() {
-    if (!CheckBoxKRVImageOptions::SetDefaultValueToUI() || !ctrlParentPanelPtr)
-        return false;
-    ppd_file_t *ppd = ctrlParentPanelPtr->GetCurrentPPD();
-    return !ppd || SetPPD(ppd);
 }
 
 int32_t PPDCheckBoxKRVImageOptions::GetSummaryText(QVariantMap *summary, QStringList *orderArray) {
@@ -213,13 +178,7 @@ int32_t PPDCheckBoxKRVImageOptions::GetSummaryText(QVariantMap *summary, QString
 // The value is the index here, and the order of the choices plays no part, unlike where the box
 // marks the option: a queue that lists "True" first gets the other choice at this point.
 bool GBasePPDCheckBoxKRV::SetValueToTicket(PMPrintSettings, bool) {
-    if (!ctrlDataBlkPtr || !ctrlParentPanelPtr || !valueDidChange)
-        return false;
-    if (!tellHost(m_ppd.kPPDMainKey,
-                  PpdBinding::choiceAt(m_paPPDChoices.get(), ctrlDataBlkPtr->word())))
-        return false;
-    valueDidChange = false;
-    return true;
+    return ctrlDataBlkPtr && sendChangedChoice(ctrlDataBlkPtr->word());
 }
 
 bool GCheckBoxKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/ppd_binding.h"
+#include "controls/ppd_bound_control.h"
 #include "controls/two_state_control.h"
 
 class CheckBoxView;
@@ -44,7 +44,7 @@ protected:
 /// The value isn't the row's index: the option may list either choice first. If row 0 is "False",
 /// value 0 is row 0 and value 1 is row 1; else the other way round. A user's click is told to the
 /// host only after the constraint steps have run, so that the constraints of a refused click stay.
-class PPDCheckBoxKRVImageOptions : public CheckBoxKRVImageOptions {
+class PPDCheckBoxKRVImageOptions : public PpdBoundControl<CheckBoxKRVImageOptions> {
 public:
     /// @param ppdKey  the option's keyword; outlives the control
     void PPDCheckBox(CheckBoxView *view, const char *ppdKey, CheckBoxIniData *iniData,
@@ -59,7 +59,6 @@ public:
     /// @param value  receives 1 for exactly "True", else 0
     /// @return false for a null choice
     bool GetDefaultValueFromPPD(const QString &choice, int32_t *value);
-    bool SetControlValueToUI() override;
     /// Marks the committed value. @return the host's answer; false without PPD, keyword or block;
     ///         true for a negative value
     bool RestorePPD(ppd_file_t *ppd);
@@ -69,29 +68,17 @@ public:
     /// @return the result of the constraint steps
     bool UIEventHandler() override;
     /// UI block := view, and that value marked. Results as RestorePPD.
-    virtual bool SetPPD(ppd_file_t *ppd);
-    /// Sends nothing: the value leaves as a mark. @return true
-    bool SetValueToTicket(PMPrintSettings settings, bool withParam) override;
-    /// The ticket write of the base class, for subclasses.
-    bool BaseSetValueToTicket(PMPrintSettings settings, bool withParam);
+    bool SetPPD(ppd_file_t *ppd) override;
     /// Data block := the marked choice; the host is told. Without a mark the block stays.
     /// @return false without panel or option, and on refusal
     bool GetValueToPreset() override;
-    /// Mark, view and constraints anew. Nothing without a panel or its PPD. @return 0
-    int32_t Open() override;
-    /// View := default, and the view's value marked. @return false without a panel or on refusal
-    bool SetDefaultValueToUI() override;
     /// The label of the committed choice, cut to 23 bytes, under the title; also for a box that is
     /// held down. @return 0
     int32_t GetSummaryText(QVariantMap *summary, QStringList *orderArray) override;
 
-    const QString &title() const { return m_ppd.titleTextRef; }
-
 protected:
     /// The row of a value, 0 or 1, in the option's order.
     int32_t rowOfValue(int32_t value) const;
-
-    PpdBinding m_ppd;
 };
 
 /// A PPD check box whose value goes to the host when the job is saved, if it has changed.

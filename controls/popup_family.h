@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/integer_control.h"
-#include "controls/ppd_binding.h"
+#include "controls/ppd_bound_control.h"
 
 #include <string>
 
@@ -62,7 +62,7 @@ protected:
 ///
 /// A user's choice is told to the host, which may refuse it; the list then goes back to the item
 /// that it showed, and no constraint step runs. Items that a marked choice forbids are disabled.
-class PPDPopupControlKRVImageOptions : public PopupControlKRVImageOptions {
+class PPDPopupControlKRVImageOptions : public PpdBoundControl<PopupControlKRVImageOptions> {
 public:
     /// @param ppdKey        the option's keyword; outlives the control
     /// @param titleControl  tag of the static text that takes the option's title, or null
@@ -76,10 +76,6 @@ public:
     bool InitializeMenu(const Bundle *bundle, ppd_file_t *ppd) override;
     /// Menu := rows. Titles and keywords are cut at 99 bytes. Without rows the menu stays.
     virtual void ReInitializeMenu();
-    /// Sends nothing: the value leaves as a mark. @return true
-    bool SetValueToTicket(PMPrintSettings settings, bool withParam) override;
-    /// The ticket write of the base class, for subclasses.
-    bool BaseSetValueToTicket(PMPrintSettings settings, bool withParam);
     /// Puts titleTextRef, with ":" behind it, into the title control.
     /// @param title  null: nothing is done
     void SetTitleWithCFStringEx(const QString &title);
@@ -91,22 +87,17 @@ public:
     /// @return whether the control is neither disabled nor hidden by a constraint
     virtual bool ToGetSummaryText();
     bool UIEventHandler() override;
-    /// View := default, and the default marked. @return false without a panel or on refusal
-    bool SetDefaultValueToUI() override;
-    bool SetControlValueToUI() override;
     /// Data block := the marked choice, or the PPD's default one; the host is told.
     bool GetValueToPreset() override;
     /// Data block := the value of the row at an index. @return false outside the rows
     virtual bool ConvertFromPresetIndex(int32_t index);
     int32_t UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) override;
-    /// Conflicts, mark, view and constraints anew. Nothing without a panel or its PPD. @return 0
-    int32_t Open() override;
     /// @param value  receives the value of the row with that keyword, 0 without one
     /// @return whether there is one
     virtual bool GetDefaultValueFromPPD(const QString &choice, int32_t *value);
     /// Marks the choice that the view shows. @return false on refusal, without a PPD or a keyword;
     ///         true with nothing to mark
-    virtual bool SetPPD(ppd_file_t *ppd);
+    bool SetPPD(ppd_file_t *ppd) override;
     /// Marks the committed choice. Results as SetPPD.
     virtual bool RestorePPD(ppd_file_t *ppd);
     /// Tells the host the choice at an index of the option. @return the host's answer; true for
@@ -121,17 +112,13 @@ public:
     /// The same lookup under its other name.
     int32_t GetIndexByStr(const QString &choice) const;
 
-    const QString &title() const { return m_ppd.titleTextRef; }
-
 protected:
     /// The row count as the menu counts it, in 16 bits.
-    int32_t rowCount() const;
+    int32_t menuRowCount() const;
     /// A new item at the menu's end; title and keyword are cut at 99 bytes.
     static void addItem(PopupView &menu, const ChoiceRow &row);
     /// The row of the committed value, or -1.
     int32_t committedRow();
-
-    PpdBinding m_ppd;
 };
 
 /// A PPD list whose value goes to the host when the job is saved, if it has changed.

@@ -68,11 +68,8 @@ QString PpdBinding::markedChoice(const ControlPanel *panel) const {
 
 void PpdBinding::addSummaryRow(const QString &text, QVariantMap *summary, QStringList *orderArray,
                                int titleBytes) const {
-    if (!summary || !orderArray || text.isNull() || titleTextRef.isNull())
-        return;
-    const QString title = titleBytes < 0 ? titleTextRef : cutToBytes(titleTextRef, titleBytes);
-    summary->insert(title, text);
-    orderArray->append(title);
+    ::addSummaryRow(titleBytes < 0 ? titleTextRef : cutToBytes(titleTextRef, titleBytes), text,
+                    summary, orderArray);
 }
 
 QString PpdBinding::label(int64_t row) const {

@@ -22,7 +22,7 @@ void PPDPopupControlKRVImageOptions::CreateControl(PopupView *view, const char *
     m_ppd = PpdBinding{.kPPDMainKey = ppdKey, .ctrlIDTitleExPtr = titleControl};
 }
 
-int32_t PPDPopupControlKRVImageOptions::rowCount() const {
+int32_t PPDPopupControlKRVImageOptions::menuRowCount() const {
     return static_cast<uint16_t>(m_ppd.rowCount());
 }
 
@@ -32,7 +32,7 @@ bool PPDPopupControlKRVImageOptions::InitializeMenu(const Bundle *, ppd_file_t *
     ReInitializeMenu();
     if (popup())
         popup()->selectItemAtIndex(0);
-    if (rowCount() > 0) {
+    if (menuRowCount() > 0) {
         int32_t value = 0;
         if (GetDefaultValueFromPPD(m_ppd.defaultChoice(ppd), &value) && value > 0) {
             if (popup())
@@ -49,25 +49,16 @@ bool PPDPopupControlKRVImageOptions::InitializeMenu(const Bundle *, ppd_file_t *
 
 void PPDPopupControlKRVImageOptions::ReInitializeMenu() {
     PopupView *menu = popup();
-    if (!menu || rowCount() < 1)
+    if (!menu || menuRowCount() < 1)
         return;
     menu->removeAllItems();
-    for (const ChoiceRow &row : m_ppd.ctrlPPDInfoArrayRef.first(rowCount()))
+    for (const ChoiceRow &row : m_ppd.ctrlPPDInfoArrayRef.first(menuRowCount()))
         addItem(*menu, row);
 }
 
 void PPDPopupControlKRVImageOptions::addItem(PopupView &menu, const ChoiceRow &row) {
     menu.addItemWithTitle(cutToBytes(row.label, kMenuTextBytes));
     menu.setItemRepresentedObject(menu.numberOfItems() - 1, cutToBytes(row.choice, kMenuTextBytes));
-}
-
-bool PPDPopupControlKRVImageOptions::SetValueToTicket(PMPrintSettings, bool) {
-    return true;
-}
-
-bool PPDPopupControlKRVImageOptions::BaseSetValueToTicket(PMPrintSettings settings,
-                                                          bool withParam) {
-    return BaseControlKRVImageOptions::SetValueToTicket(settings, withParam);
 }
 
 void PPDPopupControlKRVImageOptions::SetTitleWithCFStringEx(const QString &title) {
@@ -117,21 +108,6 @@ bool PPDPopupControlKRVImageOptions::UIEventHandler() {
     return PopupControlKRVImageOptions::UIEventHandler();
 }
 
-bool PPDPopupControlKRVImageOptions::SetDefaultValueToUI() {
-    if (!PopupControlKRVImageOptions::SetDefaultValueToUI() || !ctrlParentPanelPtr)
-        return false;
-    ppd_file_t *ppd = ctrlParentPanelPtr->GetCurrentPPD();
-    return !ppd || SetPPD(ppd);
-}
-
-bool PPDPopupControlKRVImageOptions::SetControlValueToUI() {
-    if (!ctrlDataBlkPtr || !popup())
-        return false;
-    if (popup()->indexOfSelectedItem() != ctrlDataBlkPtr->word() - 1)
-        valueDidChange = true;
-    return PopupControlKRVImageOptions::SetControlValueToUI();
-}
-
 bool PPDPopupControlKRVImageOptions::GetValueToPreset() {
     const int32_t index = m_ppd.presetIndex(m_ptPPDOptions, ctrlParentPanelPtr);
     if (index < 0)
@@ -151,21 +127,12 @@ bool PPDPopupControlKRVImageOptions::ConvertFromPresetIndex(int32_t index) {
 }
 
 int32_t PPDPopupControlKRVImageOptions::UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) {
+    if (!m_ptPPDOptions)
+        return 0; // no list, or one whose option the PPD lacks
     m_ppd.rebuild(ppd, ctrlParentPanelPtr);
     if (PopupView *menu = popup())
-        for (int32_t i = 0; i < std::min<int32_t>(menu->numberOfItems(), rowCount()); ++i)
+        for (int32_t i = 0; i < std::min<int32_t>(menu->numberOfItems(), menuRowCount()); ++i)
             menu->setItemEnabled(i, !m_ppd.ctrlPPDInfoArrayRef[i].conflicted());
-    return 0;
-}
-
-int32_t PPDPopupControlKRVImageOptions::Open() {
-    ppd_file_t *ppd = PpdBinding::currentPpd(ctrlParentPanelPtr);
-    if (!ppd)
-        return 0;
-    UpdateConflictsPanelControlFromPPD(ppd);
-    GetValueToPreset();
-    SetControlValueToUI();
-    SimulationUIEventHandler();
     return 0;
 }
 
@@ -218,13 +185,7 @@ int32_t PPDPopupControlKRVImageOptions::GetIndexByStr(const QString &choice) con
 }
 
 bool GBasePPDPopupListKRV::SetValueToTicket(PMPrintSettings, bool) {
-    if (!ctrlDataBlkPtr || !ctrlParentPanelPtr || !m_paPPDChoices || !valueDidChange)
-        return false;
-    if (!tellHost(m_ppd.kPPDMainKey,
-                  PpdBinding::choiceAt(m_paPPDChoices.get(), ctrlDataBlkPtr->word() - 1)))
-        return false;
-    valueDidChange = false;
-    return true;
+    return ctrlDataBlkPtr && sendChangedChoice(int64_t{ctrlDataBlkPtr->word()} - 1);
 }
 
 bool GPPDListCtrlKRV::InitializeMenu(const Bundle *bundle, ppd_file_t *ppd) {
@@ -246,7 +207,7 @@ bool GPPDListCtrlKRV::InitializeMenu(const Bundle *bundle, ppd_file_t *ppd) {
         if (popup())
             popup()->removeAllItems();
     }
-    CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, rowCount() > 0);
+    CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, menuRowCount() > 0);
     return true;
 }
 

@@ -74,6 +74,11 @@ CtrlDataBlk *RadioButtonKRVImageOptions::GetValueFromUI() {
     return ctrlUIDataBlkPtr.get();
 }
 
+void RadioButtonKRVImageOptions::SetValueFromUIToControl() {
+    if (ctrlDataBlkPtr && ctrlUIDataBlkPtr)
+        ctrlDataBlkPtr->setWord(ctrlUIDataBlkPtr->word());
+}
+
 const void *RadioButtonKRVImageOptions::GetDefaultDataBlk() {
     return radiobuttonIniDataPtr ? &radiobuttonIniDataPtr->defaultValue : nullptr;
 }

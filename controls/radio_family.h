@@ -36,6 +36,8 @@ public:
     bool setExternalValueToData(const void *value, uint32_t size, int32_t valueType) override;
     /// @return the UI block, untouched without a view
     CtrlDataBlk *GetValueFromUI() override;
+    /// Data block := UI block, also without a view.
+    void SetValueFromUIToControl() override;
     const void *GetDefaultDataBlk() override;
     const void *GetIniDataBlk() override;
     /// @return 4
@@ -103,7 +105,7 @@ public:
     /// A click on the button that is on does nothing. @return true
     bool UIEventHandler() override;
     /// Puts the disable row of "off" in force while the button is off.
-    /// @return whether there was a row to apply
+    /// @return whether there is a disable table and the button is off
     bool InitializeConstrains();
     bool IsChecked() const;
 };

@@ -80,8 +80,6 @@ public:
     /// @param title  null: nothing is done
     void SetTitleWithCFStringEx(const QString &title);
 
-    const QString &title() const { return m_ppd.titleTextRef; }
-
 protected:
     /// The row of a position; it may lie outside the rows.
     int64_t rowOfPosition(int32_t position) const;

@@ -88,13 +88,12 @@ bool LittleArrayKRVImageOptions::ToGetSummaryText() {
 }
 
 int32_t LittleArrayKRVImageOptions::GetSummaryText(QVariantMap *summary, QStringList *orderArray) {
-    if (!ToGetSummaryText() || !summary || !orderArray || !ctrlDataBlkPtr || titleTextRef.isNull())
+    if (!ToGetSummaryText() || !ctrlDataBlkPtr)
         return 0;
     const int value = ctrlDataBlkPtr->word();
     std::array<char, 256> text{};
     ConvertIntToFloatStr(&value, text.data(), static_cast<int>(text.size()));
-    summary->insert(titleTextRef, QString::fromUtf8(text.data()));
-    orderArray->append(titleTextRef);
+    addSummaryRow(titleTextRef, QString::fromUtf8(text.data()), summary, orderArray);
     return 0;
 }
 
@@ -116,7 +115,7 @@ void PPDLittleArrayControlKRVImageOptions::PPDLittleArrayControl(
     StepperView *view, LittleArrayIniData *iniData, const char *ppdKey,
     const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access, const QString &user) {
     LittleArrayControl(view, iniData, constrain, access, user, QString());
-    m_ppd.kPPDMainKey = ppdKey;
+    m_ppd = PpdBinding{.kPPDMainKey = ppdKey};
     lastValue = 0;
 }
 

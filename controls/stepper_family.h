@@ -7,9 +7,9 @@ class StepperView;
 
 /// The small arrows beside a number field.
 ///
-/// Value: the number itself, in 4-byte blocks. The arrows can't move exactly when the view still
-/// shows `lastValue`: so `lastValue` follows the view whenever the program sets it, and
-/// is set ahead of it where the view is about to follow.
+/// Value: the number itself, in 4-byte blocks. `lastValue` follows the view whenever the program
+/// sets it, and is set ahead of it where the view is about to follow: an attempt that leaves the
+/// view at `lastValue` has met the end of the range.
 class LittleArrayKRVImageOptions : public IntegerControl {
 public:
     /// @param view      the arrows, may be null

@@ -80,11 +80,12 @@ int32_t TextEditCtrlKRVImageOptions::OnRawKeyUp(const char *) {
 }
 
 bool TextEditCtrlKRVImageOptions::SetControlValueToDefault() {
-    const void *text = GetDefaultDataBlk();
-    if (ctrlDataBlkPtr && text) {
-        ctrlDataBlkPtr->copyFrom(text, GetDefaultDataSize());
-        ctrlDataSize = GetDefaultDataSize();
-    }
+    if (!ctrlDataBlkPtr)
+        return true;
+    ctrlDataBlkPtr->clear();
+    ctrlDataSize = GetDefaultDataSize();
+    if (const void *text = GetDefaultDataBlk())
+        ctrlDataBlkPtr->copyFrom(text, ctrlDataSize);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "controls/value_text.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -13,12 +14,25 @@ bool integerToText(const CtrlDataBlk *block, char *buffer, int size) {
 bool integerFromText(const char *text, CtrlDataBlk *block) {
     if (!text || !block)
         return false;
-    block->setWord(static_cast<int32_t>(std::strtol(text, nullptr, 10)));
+    block->setWord(leadingInteger(text));
     return true;
 }
 
+int32_t leadingInteger(const char *text) {
+    return static_cast<int32_t>(
+        std::clamp<long>(std::strtol(text, nullptr, 10), INT32_MIN, INT32_MAX));
+}
+
 int32_t leadingInteger(const QString &text) {
-    return static_cast<int32_t>(std::strtol(text.toUtf8().constData(), nullptr, 10));
+    return leadingInteger(text.toUtf8().constData());
+}
+
+void addSummaryRow(const QString &title, const QString &text, QVariantMap *summary,
+                   QStringList *orderArray) {
+    if (!summary || !orderArray || title.isNull() || text.isNull())
+        return;
+    summary->insert(title, text);
+    orderArray->append(title);
 }
 
 QString cutToBytes(const QString &text, int bytes) {

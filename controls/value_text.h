@@ -3,6 +3,8 @@
 #include "controls/data_block.h"
 
 #include <QString>
+#include <QStringList>
+#include <QVariantMap>
 
 #include <cstdint>
 
@@ -12,15 +14,22 @@
 /// @return false without a block or a buffer, or if the text doesn't fit
 bool integerToText(const CtrlDataBlk *block, char *buffer, int size);
 
-/// Reads a decimal text into a block, by the number at its start; 0 without one.
+/// Reads a decimal text into a block, as leadingInteger does.
 /// @return false without a text or a block
 bool integerFromText(const char *text, CtrlDataBlk *block);
 
-/// The number at a text's start, 0 without one: blanks, a sign, digits.
+/// The number at a text's start, 0 without one: blanks, a sign, digits. One that is too great gives
+/// the greatest, and likewise below.
+int32_t leadingInteger(const char *text);
 int32_t leadingInteger(const QString &text);
 
 /// Summary texts of check boxes, steppers and output modes pass through a buffer of 24 bytes.
 inline constexpr int kSummaryTextBytes = 23;
+
+/// Adds a row to a summary where all four are there: the text under its title, and the title at the
+/// end of the order.
+void addSummaryRow(const QString &title, const QString &text, QVariantMap *summary,
+                   QStringList *orderArray);
 
 /// The longest start of a text that, as UTF-8, has at most `bytes` bytes and ends at a character.
 QString cutToBytes(const QString &text, int bytes);

@@ -2,12 +2,14 @@
 
 #include "host/bundle_loader.h"
 #include "host/command_line.h"
+#include "host/document.h"
 #include "host/drive_state.h"
 #include "host/drive_views.h"
 #include "host/files.h"
 #include "host/host_error.h"
 #include "host/line_reader.h"
 #include "host/panel_stage.h"
+#include "host/print.h"
 #include "platform/ppd_marks.h"
 #include "platform/views/alert.h"
 #include "platform/views/modal_window.h"
@@ -76,6 +78,7 @@ private:
     QJsonObject shouldPrint(const QJsonObject &);
     QJsonObject save(const QJsonObject &);
     QJsonObject summary(const QJsonObject &);
+    QJsonObject print(const QJsonObject &command);
     QJsonObject help(const QJsonObject &);
     QJsonObject mark(const QJsonObject &command);
     QJsonObject setting(const QJsonObject &command);
@@ -99,6 +102,7 @@ const Driver::CommandRow Driver::kCommands[] = {
     {"shouldPrint", &Driver::shouldPrint, Free},
     {"save", &Driver::save, Free | Open},
     {"summary", &Driver::summary, Free | Open},
+    {"print", &Driver::print, Free},
     {"help", &Driver::help, Free | Open},
     {"mark", &Driver::mark, Free},
     {"setting", &Driver::setting, 0},
@@ -250,6 +254,31 @@ QJsonObject Driver::save(const QJsonObject &) {
 
 QJsonObject Driver::summary(const QJsonObject &) {
     return answered(summaryJson(m_stage.session().summary()));
+}
+
+/// The job as the Print button makes it, into files.
+QJsonObject Driver::print(const QJsonObject &command) {
+    const QString to = command[QStringLiteral("to")].toString();
+    if (to.isEmpty())
+        return refused(QStringLiteral("\"to\" must be a file's name"));
+    const Document document = readDocument(command[QStringLiteral("document")].toString());
+    Outputs outputs({document.path, m_stage.source().path});
+    PanelSession &session = m_stage.session();
+    QVariantMap summary;
+    if (session.isOpen()) {
+        summary = session.summary();
+        session.shouldPrint();
+        session.save();
+    } else if (session.hasPanel()) {
+        session.printUnseen();
+    }
+    outputs.add(to, psJob(m_stage, document));
+    if (const QString ticket = command[QStringLiteral("ticket")].toString(); !ticket.isEmpty())
+        outputs.add(ticket, jsonText(ticketJson(m_stage.callback().settings())));
+    if (const QString file = command[QStringLiteral("summary")].toString(); !file.isEmpty())
+        outputs.add(file, jsonText(summaryJson(summary)));
+    outputs.commit();
+    return granted();
 }
 
 QJsonObject Driver::help(const QJsonObject &) {

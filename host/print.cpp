@@ -20,12 +20,7 @@ namespace {
 
 /// Drives the panel on the asked road; what it shows goes to the outputs.
 void drivePanel(const CommandLine &line, PanelStage &stage, Outputs &outputs) {
-    if (!line.shown) {
-        if (stage.session().hasPanel())
-            stage.session().printUnseen();
-        return;
-    }
-    const bool open = stage.open();
+    const bool open = line.shown && stage.open();
     if (!line.shot.isNull()) {
         if (!open)
             throw HostError(line.shot,
@@ -38,6 +33,8 @@ void drivePanel(const CommandLine &line, PanelStage &stage, Outputs &outputs) {
     if (open) {
         stage.session().shouldPrint();
         stage.session().save();
+    } else if (stage.session().hasPanel()) { // a panel without a view prints all the same
+        stage.session().printUnseen();
     }
 }
 
@@ -53,6 +50,11 @@ QString targetFile(const CommandLine &line) {
 }
 
 } // namespace
+
+QByteArray psJob(PanelStage &stage, const Document &document) {
+    return writePsJob(stage.source().ppd.get(), toPostScript(document),
+                      QFileInfo(document.path).fileName());
+}
 
 int sendToCups(PanelStage &stage, const Document &document) {
     CupsJob job;
@@ -77,8 +79,7 @@ void print(const CommandLine &line) {
     if (!line.ticket.isNull())
         outputs.add(line.ticket, jsonText(ticketJson(stage.callback().settings())));
     if (!target.isNull()) {
-        outputs.add(target, writePsJob(stage.source().ppd.get(), toPostScript(document),
-                                       QFileInfo(line.document).fileName()));
+        outputs.add(target, psJob(stage, document));
     } else {
         const int job = sendToCups(stage, document);
         std::printf("%s-%d\n", stage.source().printer.id.toUtf8().constData(), job);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+
 namespace host {
 
 struct CommandLine;
@@ -8,6 +10,9 @@ struct Document;
 
 /// The command "print": one document, unattended, to a file or to CUPS. @throw HostError
 void print(const CommandLine &line);
+
+/// A document as a PostScript job with the stage's marks. @throw HostError
+QByteArray psJob(PanelStage &stage, const Document &document);
 
 /// Sends a document to the stage's queue, with the marks and the print settings as the job's
 /// options. @return the job's number @throw HostError

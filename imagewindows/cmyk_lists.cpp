@@ -19,9 +19,9 @@ bool CMYKCorrectionListCtrlIAKRV::InitializeCtrl(const Bundle *bundle, ppd_file_
     if (!m_given || !m_given->disableTable)
         return false;
     m_rows.clear();
-    for (int32_t i = 0; i < rowCount(); ++i)
+    for (int32_t i = 0; i < m_ppd.rowCount(); ++i)
         m_rows.push_back(m_given->disableTable->row(i));
-    if (const int32_t none = GetIndexByStr(kNone); none >= 0 && none < rowCount())
+    if (const int32_t none = GetIndexByStr(kNone); none >= 0 && none < m_ppd.rowCount())
         m_rows[static_cast<size_t>(none)] = cmykcolorcorrectionConstrain;
     m_table.rows = m_rows;
     m_constrain = *m_given;

@@ -19,7 +19,7 @@ void RGBCorrectionRowList::ReInitializeMenu() {
     menu->removeAllItems();
     const int32_t none = GetSFStringArrayIndex(kNone);
     const int32_t withoutItem = std::max(none, 0);
-    for (int32_t i = 0; i < rowCount(); ++i) {
+    for (int32_t i = 0; i < menuRowCount(); ++i) {
         const ChoiceRow &row = m_ppd.ctrlPPDInfoArrayRef[i];
         int32_t item = -1;
         if (i != withoutItem) {
@@ -38,9 +38,11 @@ void RGBCorrectionRowList::ReInitializeMenu() {
 }
 
 int32_t RGBCorrectionRowList::UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) {
+    if (!m_ptPPDOptions)
+        return 0;
     m_ppd.rebuild(ppd, ctrlParentPanelPtr);
     if (PopupView *menu = popup())
-        for (int32_t i = 1; i < rowCount() && i <= menu->numberOfItems(); ++i)
+        for (int32_t i = 1; i < menuRowCount() && i <= menu->numberOfItems(); ++i)
             menu->setItemEnabled(i - 1, !m_ppd.ctrlPPDInfoArrayRef[i].conflicted());
     return 0;
 }

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QTranslator>
 
 namespace {
@@ -30,12 +31,16 @@ QStringList &chosenLanguages() {
     return codes;
 }
 
-/// "zh-Hans-CN.UTF-8" gives "zh_Hans_CN", "zh_Hans" and "zh".
+/// "de-AT.UTF-8" gives "de_AT" and "de". Chinese without a word of traditional script is
+/// simplified, which the tables name by its country: "zh-Hans-SG" gives "zh_CN", too.
 QStringList withBaseLanguages(QString code) {
     code.replace(u'-', u'_');
     for (const QChar end : {u'.', u'@'})
         code = code.section(end, 0, 0);
     QStringList codes;
+    static const QRegularExpression traditional(QStringLiteral("_(Hant|TW|HK|MO)(_|$)"));
+    if ((code + u'_').startsWith(QLatin1String("zh_")) && !code.contains(traditional))
+        codes += {code, QStringLiteral("zh_CN")};
     for (; !code.isEmpty(); code = code.contains(u'_') ? code.section(u'_', 0, -2) : QString())
         codes += code;
     return codes;

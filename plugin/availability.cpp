@@ -1,9 +1,12 @@
 // Questions of controls and windows on the state of the job and of the panel's controls.
 
+#include "controls/check_box_family.h"
 #include "controls/popup_family.h"
 #include "controls/radio_family.h"
 #include "controls/slider_family.h"
 #include "controls/value_text.h"
+#include "imagewindows/color_balance_window.h"
+#include "imagewindows/image_adjustment_window.h"
 #include "imagewindows/rgb_correction_list.h"
 #include "platform/preferences.h"
 #include "plugin/image_options_pde.h"
@@ -43,6 +46,23 @@ BaseControlKRVImageOptions *ImageOptionsPDEk27::getbrightnessSlider() const {
     return brightnessSliderCtrl;
 }
 
+PopupWinInPanelKRVImageOptions *ImageOptionsPDEk27::getColorBalanceWnd() const {
+    return colorBalanceWndPtr.get();
+}
+
+PopupWinInPanelKRVImageOptions *ImageOptionsPDEk27::getImageAdjustmentWnd() const {
+    return imageAdjustmentWndPtr.get();
+}
+
+PopupWinInPanelKRVImageOptions *ImageOptionsPDEk27::getImageAdjustmentBlackOverWnd() const {
+    return imageAdjustmentBlackOverWndPtr.get();
+}
+
+PopupWinInPanelKRVImageOptions *
+ImageOptionsPDEk27::getImageAdjustmentInvalidateColorProfileWndP() const {
+    return imageAdjustmentInvalidateColorProfileWndPtr.get();
+}
+
 bool ImageOptionsPDEk27::IsAdvancedSettingAvailable() const {
     BaseControlKRVImageOptions *radio = getgraphicsadvanceSetRdioCtrl();
     return radio && isOn(radio);
@@ -54,7 +74,8 @@ bool ImageOptionsPDEk27::IsColorModeAvailable() const {
 }
 
 bool ImageOptionsPDEk27::IsColorBalanceAdjustmentAvailable() const {
-    return false;
+    GCheckBoxKRV *box = colorBalanceWndPtr->getgraphicWndAdjustCBCboxCtrl();
+    return box && isOn(box);
 }
 
 bool ImageOptionsPDEk27::IsJobTypeMailbox() const {

@@ -4,6 +4,8 @@
 
 #include "controls/button_family.h"
 #include "controls/radio_family.h"
+#include "imagewindows/color_balance_window.h"
+#include "imagewindows/image_adjustment_window.h"
 #include "platform/bundle.h"
 #include "platform/log.h"
 #include "platform/pde/pde_plugin_callback.h"
@@ -21,7 +23,12 @@ constexpr size_t kConstraintTableRequest = 100;
 
 } // namespace
 
-ImageOptionsPDEk27::ImageOptionsPDEk27() = default;
+ImageOptionsPDEk27::ImageOptionsPDEk27()
+    : colorBalanceWndPtr(std::make_unique<ColorBalanceWndKRV>()),
+      imageAdjustmentWndPtr(std::make_unique<ImageAdjustmentWndKRV>()),
+      imageAdjustmentBlackOverWndPtr(std::make_unique<ImageAdjustmentBlackOverWndKRV>()),
+      imageAdjustmentInvalidateColorProfileWndPtr(
+          std::make_unique<ImageAdjustmentInvalidateColorProfileWndKRV>()) {}
 
 ImageOptionsPDEk27::~ImageOptionsPDEk27() {
     BasePrintPanelKRVImageOptions::terminate(); // the controls let go of their views first

@@ -15,6 +15,7 @@
 
 class BrightMaxSTextCtrlKRV;
 class BrightMiniSTextCtrlKRV;
+class ColorBalanceWndKRV;
 class GColorBalanceButtonKRV;
 class GHelpButtonKRV;
 class GImageSettingsButtonKRV;
@@ -23,6 +24,10 @@ class GPPDListCtrlKRV;
 class GPPDSliderBarControlKRV;
 class GRadioButtonKRV;
 class GRestoreDefaultButtonKRV;
+class ImageAdjustmentBlackOverWndKRV;
+class ImageAdjustmentInvalidateColorProfileWndKRV;
+class ImageAdjustmentWindow;
+class ImageAdjustmentWndKRV;
 class PPDPopupControlKRVImageOptions;
 class PPDStaticTextCtrlKRVImageOptions;
 class PluginTypeListCtrlKRV;
@@ -90,18 +95,11 @@ public:
     BaseControlKRVImageOptions *getgraphicsadvanceSetRdioCtrl() const override;
     PPDPopupControlKRVImageOptions *getcolormodePopupList() const override;
     BaseControlKRVImageOptions *getbrightnessSlider() const override;
-    PopupWinInPanelKRVImageOptions *getColorBalanceWnd() const override {
-        return colorBalanceWndPtr;
-    }
-    PopupWinInPanelKRVImageOptions *getImageAdjustmentWnd() const override {
-        return imageAdjustmentWndPtr;
-    }
-    PopupWinInPanelKRVImageOptions *getImageAdjustmentBlackOverWnd() const override {
-        return imageAdjustmentBlackOverWndPtr;
-    }
-    PopupWinInPanelKRVImageOptions *getImageAdjustmentInvalidateColorProfileWndP() const {
-        return imageAdjustmentInvalidateColorProfileWndPtr;
-    }
+    // The windows stand as long as the panel does; those that it hasn't built are inert.
+    PopupWinInPanelKRVImageOptions *getColorBalanceWnd() const override;
+    PopupWinInPanelKRVImageOptions *getImageAdjustmentWnd() const override;
+    PopupWinInPanelKRVImageOptions *getImageAdjustmentBlackOverWnd() const override;
+    PopupWinInPanelKRVImageOptions *getImageAdjustmentInvalidateColorProfileWndP() const;
 
     /// @param type  a row of ProductInfo; any other number gives 0
     void setPDEType(int32_t type);
@@ -134,6 +132,10 @@ private:
     void addImageSettingsButton(const char *title);
     void addHelpButton(const char *page);
     void addVersionText(bool cdfSupport);
+    void addColorBalanceWindow();
+    /// Builds the image adjustment window that a PPD asks for; one that stands for another PPD is
+    /// given up, one that fits stays.
+    void addImageAdjustmentWindow(const Bundle *bundle, ppd_file_t *ppd);
     template <class Text>
     void addText(Text *&field, TextView *view, const char *key);
     /// Initialises all controls for a PPD and works out the product type.
@@ -204,8 +206,10 @@ private:
     GRestoreDefaultButtonKRV *restoredefaButtonCtrl = nullptr;
     GHelpButtonKRV *helpButtonCtrl = nullptr;
     VersionStringSTextKRVImageOptions *imageOptionsVerStringSTextCtrlPtr = nullptr;
-    PopupWinInPanelKRVImageOptions *colorBalanceWndPtr = nullptr;
-    PopupWinInPanelKRVImageOptions *imageAdjustmentWndPtr = nullptr;
-    PopupWinInPanelKRVImageOptions *imageAdjustmentBlackOverWndPtr = nullptr;
-    PopupWinInPanelKRVImageOptions *imageAdjustmentInvalidateColorProfileWndPtr = nullptr;
+    std::unique_ptr<ColorBalanceWndKRV> colorBalanceWndPtr;
+    std::unique_ptr<ImageAdjustmentWndKRV> imageAdjustmentWndPtr;
+    std::unique_ptr<ImageAdjustmentBlackOverWndKRV> imageAdjustmentBlackOverWndPtr;
+    std::unique_ptr<ImageAdjustmentInvalidateColorProfileWndKRV>
+        imageAdjustmentInvalidateColorProfileWndPtr;
+    ImageAdjustmentWindow *m_adjustmentWindow = nullptr; ///< the one that is built
 };

@@ -5,6 +5,8 @@
 #include "controls/radio_family.h"
 #include "controls/slider_family.h"
 #include "controls/static_text_family.h"
+#include "imagewindows/color_balance_window.h"
+#include "imagewindows/image_adjustment_window.h"
 #include "imagewindows/output_mode_list.h"
 #include "imagewindows/plugin_type_list.h"
 #include "imagewindows/rgb_correction_list.h"
@@ -15,6 +17,7 @@
 #include "ppd/ppd_query.h"
 #include "ppd/product_type.h"
 #include "ppd/regular_file.h"
+#include "services/bundle_identity.h"
 
 std::vector<views::Outlet> ImageOptionsPDEk27::outlets() {
     using views::outlet;
@@ -157,7 +160,34 @@ void ImageOptionsPDEk27::CreatePanel(QWidget *window) {
     addVersionText(cdfSupport);
     // clang-format on
 
+    addColorBalanceWindow();
     isPrintTypeSavetoMailbox = false;
+}
+
+void ImageOptionsPDEk27::addColorBalanceWindow() {
+    ColorBalanceWndKRV &window = *colorBalanceWndPtr;
+    window.ColorBalanceWnd(window.loadWindow(pluginBundle.get()),
+                           QStringLiteral("Color Balance Window Title String"));
+    RunTimeAddNewWindow(&window);
+}
+
+// A queue that can only ignore embedded profiles gets the window for black overprint, while the
+// settings button asks for the plain one, which stays inert: the button then opens nothing.
+void ImageOptionsPDEk27::addImageAdjustmentWindow(const Bundle *bundle, ppd_file_t *ppd) {
+    const bool further = ppd && (ppdFindOption(ppd, kPPDBlackOverPrintKey) ||
+                                 ppdFindOption(ppd, kQZInvalidateColorProfile));
+    ImageAdjustmentWindow *window = imageAdjustmentWndPtr.get();
+    if (further)
+        window = imageAdjustmentBlackOverWndPtr.get();
+    if (window == m_adjustmentWindow && window->GetParentWnd() == this)
+        return;
+    if (m_adjustmentWindow && m_adjustmentWindow != window)
+        m_adjustmentWindow->CreatePanel(nullptr, QString());
+    window->setPluginTypeRecord(&m_records.plugintypeList);
+    window->CreatePanel(window->loadWindow(bundle),
+                        QStringLiteral("Image Type Window Title String"));
+    RunTimeAddNewWindow(window);
+    m_adjustmentWindow = window;
 }
 
 int32_t ImageOptionsPDEk27::InitializeUserPane(const Bundle *bundle, ppd_file_t *ppd) {
@@ -165,6 +195,7 @@ int32_t ImageOptionsPDEk27::InitializeUserPane(const Bundle *bundle, ppd_file_t 
 }
 
 int32_t ImageOptionsPDEk27::bindControls(const Bundle *bundle, ppd_file_t *ppd) {
+    addImageAdjustmentWindow(bundle, ppd);
     CPPDChecker::Instance()->Init();
     if (const int32_t status = BasePrintPanelKRVImageOptions::InitializeUserPane(bundle, ppd))
         return status;

@@ -1,16 +1,25 @@
 #!/usr/bin/env python3
-"""Writes the sample queues beside this file (PPD 4.3).
+"""Writes the sample queues (PPD 4.3).
 
-The .ppd files are kept under version control, and the build doesn't run this script. Run it
-after a change of the tables below, then `cupstestppd -W none *.ppd`.
+    make_queues.py                 those that are kept under version control, beside this file
+    make_queues.py --build FOLDER  those that the build writes: one is large, one names its folder
+
+Run it after a change of the tables below, then `cupstestppd -W none *.ppd`.
 
 A choice is a pair (keyword, label). Each option stands in the order in which its menu shows it.
 Every choice carries harmless PostScript that leaves a trace in the job:
 `userdict /QZColorMode (Color) put`.
 """
 
-from dataclasses import dataclass, field
+import os
+import re
+import sys
+from dataclasses import dataclass, field, replace
+from itertools import combinations
 from pathlib import Path
+
+sys.dont_write_bytecode = True
+import labels  # noqa: E402
 
 EDITED = "Tue Nov 24 2026"
 VERSION = "1.0"
@@ -24,6 +33,28 @@ class Option:
     choices: list
     order: tuple  # position and section of *OrderDependency
     kind: str = "PickOne"
+    code: dict = field(default_factory=dict)  # of a choice, where it isn't just a trace
+
+
+@dataclass(frozen=True)
+class Language:
+    name: str
+    encoding: str  # of *LanguageEncoding
+    codec: str
+    labels: dict = None  # by the English text
+
+    def say(self, text):
+        """Numbers and units are the same in each language; a word must stand in the table."""
+        return self.labels[text] if self.labels and re.search("[A-Za-z]{2}", text) else text
+
+    def of(self, option):
+        return replace(option, title=self.say(option.title),
+                       choices=[(keyword, self.say(text)) for keyword, text in option.choices])
+
+
+ENGLISH = Language("English", "ISOLatin1", "latin-1")
+GERMAN = Language("German", "WindowsANSI", "cp1252", labels.GERMAN)
+JAPANESE = Language("Japanese", "JIS83-RKSJ", "shift_jis", labels.JAPANESE)
 
 
 @dataclass
@@ -36,6 +67,8 @@ class Queue:
     image: list  # options of the group "Image"
     balance: list  # options of the group "Color balance"
     constraints: list = field(default_factory=list)  # (remark, [first half, second half] ...)
+    brand: str = "Velmora"
+    language: Language = ENGLISH
 
 
 # ---- Options that every queue has ---------------------------------------------------------------
@@ -43,18 +76,22 @@ class Queue:
 PAGES = [("A4", "A4", 595, 842), ("Letter", "US Letter", 612, 792), ("A3", "A3", 842, 1191)]
 MARGIN = 12
 
-PAPER_SOURCE = Option("InputSlot", "Paper Source", "Auto", [
-    ("Auto", "Automatic"), ("Tray1", "Tray 1"), ("Tray2", "Tray 2"),
-    ("ManualFeed", "Manual Feed")], (11, "AnySetup"))
-DUPLEX = Option("Duplex", "Two-Sided Printing", "None", [
-    ("None", "Off"), ("DuplexNoTumble", "Long Edge"), ("DuplexTumble", "Short Edge")],
-    (12, "AnySetup"))
-
-DUPLEX_CODE = {
-    "None": "<</Duplex false>>setpagedevice",
-    "DuplexNoTumble": "<</Duplex true/Tumble false>>setpagedevice",
-    "DuplexTumble": "<</Duplex true/Tumble true>>setpagedevice",
-}
+GENERAL = [
+    *(Option(keyword, title, "A4", [(name, label) for name, label, *_ in PAGES],
+             (10, "AnySetup"),
+             code={name: f"<</PageSize[{w} {h}]/ImagingBBox null>>setpagedevice"
+                   for name, _, w, h in PAGES})
+      for keyword, title in (("PageSize", "Page Size"), ("PageRegion", "Page Region"))),
+    Option("InputSlot", "Paper Source", "Auto", [
+        ("Auto", "Automatic"), ("Tray1", "Tray 1"), ("Tray2", "Tray 2"),
+        ("ManualFeed", "Manual Feed")], (11, "AnySetup")),
+    Option("Duplex", "Two-Sided Printing", "None", [
+        ("None", "Off"), ("DuplexNoTumble", "Long Edge"), ("DuplexTumble", "Short Edge")],
+        (12, "AnySetup"), code={
+            "None": "<</Duplex false>>setpagedevice",
+            "DuplexNoTumble": "<</Duplex true/Tumble false>>setpagedevice",
+            "DuplexTumble": "<</Duplex true/Tumble true>>setpagedevice"}),
+]
 
 # ---- Options of the panel -----------------------------------------------------------------------
 
@@ -122,8 +159,8 @@ def densities():
     """Twelve options whose keywords are the numbers that the panel shows."""
     rows = [(str(n), f"{n:+d}" if n else "0") for n in range(3, -4, -1)]
     place = 50
-    for level in ("Low", "Mid", "High"):
-        for ink in ("Black", "Cyan", "Magenta", "Yellow"):
+    for level in labels.LEVELS:
+        for ink in labels.INKS:
             place += 0.25
             yield Option(f"QZColorDensity{ink}{level}", f"{ink} Density, {level}", "0", rows,
                          (place, "DocumentSetup" if ink == "Black" else "AnySetup"))
@@ -170,6 +207,56 @@ def draft_brightness(level):
                      f"*QZBrightness {level}")
 
 
+# The choices furthest from the middle. An option keeps at least two others, but for those of two
+# choices; of numbers these are the ones from 2 up and from -2 down.
+EXTREMES = {
+    "QZColorMode": ["Black"],
+    "QZOutputMode": ["Draft", "SuperFine"],
+    "QZBrightness": ["3", "2", "-2", "-3"],
+    "QZRGBImageType": ["Photo", "Portrait", "Landscape", "Product", "Artwork", "Graphics", "Chart",
+                       "Map", "Drawing", "WebPage"],
+    "QZRGBCorrection": ["Saturation", "Absolute"],
+    "QZCMYKCorrectionSTD": ["Newsprint", "Proof"],
+    "QZEngineScreen": ["Gradation", "Stochastic"],
+    "QZRGBInputProfile": ["Display", "Scanner", "Off"],
+    "QZColorTemperature": ["D75", "D93"],
+    "QZBlackOverprint": ["True"],
+    **{option.keyword: ["3", "2", "-2", "-3"] for option in densities()},
+}
+
+
+def weight(choice):
+    return abs(int(choice)) if choice.lstrip("-").isdigit() else 3
+
+
+def many_constraints(stated, lines):
+    """The stated constraints, and more of them up to a number of lines.
+
+    An extreme excludes those of other options, the heaviest pairs first; some exclude all of gamma or
+    target paper. None is a default, so that at first nothing is forbidden, and beside an extreme the
+    milder choices remain.
+    """
+    result = stated + [
+        both_ways("Brightness this far from the middle leaves gamma no room.",
+                  f"*QZBrightness {n}", "*QZRGBGammaCorrection")
+        for n in EXTREMES["QZBrightness"]
+    ] + [
+        both_ways("How much ink a shadow takes comes from one of the two.",
+                  f"*QZColorDensity{ink}High {n}", "*QZCMYKCorrectionTarget")
+        for ink in labels.INKS for n in EXTREMES[f"QZColorDensity{ink}High"]
+    ]
+    taken = {pair for _, pairs in result for pair in pairs}
+    extremes = [(keyword, choice) for keyword, some in EXTREMES.items() for choice in some]
+    more = [(f"*{one[0]} {one[1]}", f"*{other[0]} {other[1]}")
+            for one, other in sorted(combinations(extremes, 2),
+                                     key=lambda pair: -sum(weight(choice) for _, choice in pair))
+            if one[0] != other[0]]
+    more = [pair for pair in more if pair not in taken][:(lines - len(taken)) // 2]
+    assert len(taken) + 2 * len(more) == lines
+    return result + [("Two extremes at once are more than the engine holds.",
+                      [half for pair in more for half in (pair, pair[::-1])])]
+
+
 # ---- Queues -------------------------------------------------------------------------------------
 
 DRAFT, NORMAL, FINE = ("Draft", "Draft"), ("Normal", "Normal"), ("Fine", "Fine")
@@ -185,7 +272,7 @@ SCREENS = [AUTO, ("Resolution", "Resolution"), ("Gradation", "Gradation"),
 MVO_110 = Queue(
     "velmora-mvo-110.ppd", "MVO-110", "VLMVO110.PPD",
     "19 image options, even number of brightness rows, strings table 01.",
-    [("QZXImageOptionsSettings", "Default00-MVO110"), ("QZLocalizableFileIndex", "01")],
+    [("QZXImageOptionsSettings", "Default01-MVO110"), ("QZLocalizableFileIndex", "01")],
     [color_mode(),
      output_mode("Normal", [DRAFT, NORMAL, FINE]),
      brightness(2, -1),
@@ -199,7 +286,7 @@ MVO_110 = Queue(
 MVO_220 = Queue(
     "velmora-mvo-220.ppd", "MVO-220", "VLMVO220.PPD",
     "22 image options, profile check box, check boxes with True first.",
-    [("QZXImageOptionsSettings", "Default00-MVO220")],
+    [("QZXImageOptionsSettings", "Default02-MVO220")],
     [color_mode(),
      output_mode("Normal", [FINE, NORMAL, DRAFT]),
      brightness(2, -2),
@@ -217,7 +304,7 @@ MVO_220 = Queue(
 MVO_420 = Queue(
     "velmora-mvo-420.ppd", "MVO-420", "VLMVO420.PPD",
     "23 image options, mailbox jobs with fine output.",
-    [("QZXImageOptionsSettings", "Default00-MVO420"), ("QZXMailBoxSettings", "AutoFine")],
+    [("QZXImageOptionsSettings", "Default03-MVO420"), ("QZXMailBoxSettings", "AutoFine")],
     [color_mode((("Color", "Color"), ("Black", "Black and White"), ("TwoColor", "Two Colors"))),
      output_mode("Normal", [DRAFT, NORMAL, FINE, ("SuperFine", "Super Fine")]),
      brightness(3, -3),
@@ -262,11 +349,58 @@ MVO_530 = Queue(
      BALANCE_GAMMA, PROFILE_TEMPERATURE, STOCHASTIC_VIVID, DRAFT_PAPER, TEMPERATURE_PAPER,
      OVERPRINT_BLACK])
 
+MVO_530_DE = replace(
+    MVO_530, file="velmora-mvo-530-de.ppd", model="MVO-530 DE", pc_file="VLM530DE.PPD",
+    about="The MVO-530 with German labels in Windows ANSI.", language=GERMAN)
+
+MVO_530_JA = replace(
+    MVO_530, file="velmora-mvo-530-ja.ppd", model="MVO-530 JA", pc_file="VLM530JA.PPD",
+    about="The MVO-530 with Japanese labels in Shift_JIS.", language=JAPANESE)
+
+MVO_590 = replace(
+    MVO_530, file="velmora-mvo-590.ppd", model="MVO-590", pc_file="VLMVO590.PPD",
+    about="The MVO-530 with 5,000 lines of constraints.",
+    constraints=many_constraints(MVO_530.constraints, 5000))
+
+SV500 = Queue(
+    "sorvani-sv500.ppd", "SV500", "SVSV500.PPD",
+    "All 24 image options, black overprint and profile check box, strings table 02.",
+    [("QZXImageOptionsSettings", "Sorvani00-SV500"), ("QZLocalizableFileIndex", "02")],
+    [color_mode(),
+     output_mode("Normal", [FINE, NORMAL, DRAFT]),
+     brightness(2, -2),
+     image_type("Auto", [AUTO, PHOTO, GRAPHICS, TEXT, MIXED, ("WebPage", "Web Page")]),
+     rgb_correction("Absolute", [PERCEPTUAL, SATURATION, ABSOLUTE]),
+     cmyk_correction("Uncoated", [("Coated", "Coated Stock"), ("None", "Off"),
+                                  ("Uncoated", "Uncoated Stock")]),
+     screen(SCREENS[:3]),
+     input_profile([("AdobeRGB", "Adobe RGB (1998)"), ("Scanner", "Scanner")]),
+     gamma(GAMMAS[1:]),
+     temperature(TEMPERATURES[:3]),
+     target_paper([("Plain", "Plain Paper"), ("Coated", "Coated Paper")]),
+     check_box("QZBlackOverprint", "Black Overprint", (47, "PageSetup")),
+     check_box("QZInvalidateColorProfile", "Ignore Embedded Profiles", (48, "AnySetup"))],
+    color_balance(),
+    [MANUAL_DUPLEX, MANUAL_DRAFT, FINE_DUPLEX, BLACK_PHOTO, BLACK_SCREEN, draft_brightness(2),
+     BALANCE_GAMMA, PROFILE_TEMPERATURE, DRAFT_PAPER, TEMPERATURE_PAPER, OVERPRINT_BLACK,
+     INVALIDATE_PROFILE],
+    brand="Sorvani")
+
 PLAIN = Queue(
     "velmora-plain.ppd", "Plain", "VLPLAIN.PPD", "No image options, so no panel.", [], [], [],
     [MANUAL_DUPLEX])
 
-QUEUES = [MVO_110, MVO_220, MVO_420, MVO_530, PLAIN]
+KEPT = [MVO_110, MVO_220, MVO_420, MVO_530, MVO_530_DE, MVO_530_JA, SV500, PLAIN]
+
+
+def built(folder):
+    """The queues that the build writes into a folder."""
+    cache = os.fsencode(folder / "velmora-mvo-530.cdf").decode(ENGLISH.codec)
+    return [MVO_590, replace(
+        MVO_530, file="velmora-mvo-530-cached.ppd", model="MVO-530 Cached", pc_file="VLM530CD.PPD",
+        about="The MVO-530 with its constraints in a cache file.",
+        attributes=[*MVO_530.attributes, ("QZXCDFSetting", cache)])]
+
 
 # ---- Text of a file -----------------------------------------------------------------------------
 
@@ -276,14 +410,14 @@ FONTS = ["Courier", "Courier-Bold", "Courier-BoldOblique", "Courier-Oblique", "H
 
 
 def head(queue):
-    name = f"Velmora {queue.model}"
+    name = f"{queue.brand} {queue.model}"
     yield '*PPD-Adobe: "4.3"'
     yield f"*% {name}: {queue.about}"
     yield f"*% Last Edit Date: {EDITED}"
     yield '*FormatVersion: "4.3"'
     yield f'*FileVersion: "{VERSION}"'
-    yield "*LanguageVersion: English"
-    yield "*LanguageEncoding: ISOLatin1"
+    yield f"*LanguageVersion: {queue.language.name}"
+    yield f"*LanguageEncoding: {queue.language.encoding}"
     yield f'*PCFileName: "{queue.pc_file}"'
     yield '*Manufacturer: "QZ"'
     yield f'*Product: "({name})"'
@@ -315,45 +449,38 @@ def constraints(queue):
             yield f"*UIConstraints: {first} {second}"
 
 
-def group(keyword, title, options):
+def group(language, keyword, title, options):
     yield ""
-    yield f"*OpenGroup: {keyword}/{title}"
+    yield f"*OpenGroup: {keyword}/{language.say(title)}"
     for option in options:
         yield ""
-        yield from option
+        yield from ui(language.of(option))
     yield ""
     yield f"*CloseGroup: {keyword}"
 
 
-def ui(option, code=None):
+def ui(option):
     place, section = option.order
     yield f"*OpenUI *{option.keyword}/{option.title}: {option.kind}"
     yield f"*OrderDependency: {place:g} {section} *{option.keyword}"
     yield f"*Default{option.keyword}: {option.default}"
     for keyword, label in option.choices:
-        text = code[keyword] if code else f"userdict /{option.keyword} ({keyword}) put"
+        text = option.code.get(keyword, f"userdict /{option.keyword} ({keyword}) put")
         yield f'*{option.keyword} {keyword}/{label}: "{text}"'
     yield f"*CloseUI: *{option.keyword}"
 
 
-def pages():
+def dimensions(language):
     """With a paper source in the job, libcups sends the page's size as *PageRegion or not at all."""
-    for keyword, title in (("PageSize", "Page Size"), ("PageRegion", "Page Region")):
-        option = Option(keyword, title, "A4", [(name, label) for name, label, *_ in PAGES],
-                        (10, "AnySetup"))
-        yield ui(option, {name: f"<</PageSize[{w} {h}]/ImagingBBox null>>setpagedevice"
-                          for name, _, w, h in PAGES})
-    yield ["*RequiresPageRegion All: True"]
-
-
-def dimensions():
     yield ""
+    yield "*RequiresPageRegion All: True"
     yield "*DefaultImageableArea: A4"
     for name, label, w, h in PAGES:
-        yield f'*ImageableArea {name}/{label}: "{MARGIN} {MARGIN} {w - MARGIN} {h - MARGIN}"'
+        yield (f"*ImageableArea {name}/{language.say(label)}: "
+               f'"{MARGIN} {MARGIN} {w - MARGIN} {h - MARGIN}"')
     yield "*DefaultPaperDimension: A4"
     for name, label, w, h in PAGES:
-        yield f'*PaperDimension {name}/{label}: "{w} {h}"'
+        yield f'*PaperDimension {name}/{language.say(label)}: "{w} {h}"'
 
 
 def fonts():
@@ -365,24 +492,35 @@ def fonts():
 
 
 def text(queue):
+    language = queue.language
     yield from head(queue)
     yield from constraints(queue)
-    yield from group("General", "General", [*pages(), ui(PAPER_SOURCE), ui(DUPLEX, DUPLEX_CODE)])
-    yield from dimensions()
+    yield from group(language, "General", "General", GENERAL)
+    yield from dimensions(language)
     if queue.image:
-        yield from group("QZImage", "Image", map(ui, queue.image))
-        yield from group("QZBalance", "Color Balance", map(ui, queue.balance))
+        yield from group(language, "QZImage", "Image", queue.image)
+        yield from group(language, "QZBalance", "Color Balance", queue.balance)
     yield from fonts()
     yield ""
     yield f"*% End of {queue.file}"
 
 
+def write(queue, folder):
+    lines = [line.encode(queue.language.codec) for line in text(queue)]
+    longest = max(lines, key=len)
+    assert len(longest) <= 255, f"{queue.file}: libcups refuses lines this long: {longest}"
+    (folder / queue.file).write_bytes(b"\n".join(lines) + b"\n")
+
+
 def main():
-    folder = Path(__file__).resolve().parent
-    for queue in QUEUES:
-        lines = list(text(queue))
-        assert max(map(len, lines)) < 255
-        (folder / queue.file).write_text("\n".join(lines) + "\n", encoding="latin-1")
+    if sys.argv[1:2] == ["--build"]:
+        folder = Path(sys.argv[2])
+        queues = built(folder)
+    else:
+        folder = Path(__file__).resolve().parent
+        queues = KEPT
+    for queue in queues:
+        write(queue, folder)
 
 
 if __name__ == "__main__":

@@ -41,7 +41,8 @@ QString Captioned::markedCaption() const {
         if (isMnemonicLetter(character))
             return escapeMnemonics(m_caption);
     place = m_caption.size();
-    while (place > 0 && (m_caption[place - 1] == u':' || m_caption[place - 1] == QChar(0xFF1A)))
+    const QString tail = QStringLiteral(":\uFF1A\u2026."); // the letter stands before an ellipsis
+    while (place > 0 && tail.contains(m_caption[place - 1]))
         --place;
     return escapeMnemonics(m_caption.left(place)) + QStringLiteral("(&") + m_mnemonic + u')' +
            m_caption.mid(place);

@@ -17,42 +17,36 @@ namespace views {
 
 namespace {
 
-template <class View>
-QWidget *make(QWidget *parent) {
-    return new View(parent);
+const std::vector<ViewClass> &platformClasses() {
+    static const std::vector<ViewClass> classes{
+        viewClass<ButtonView>(),  viewClass<CheckBoxView>(),  viewClass<ModalWindow>(),
+        viewClass<PopupView>(),   viewClass<RadioView>(),     viewClass<SliderView>(),
+        viewClass<StepperView>(), viewClass<TextFieldView>(), viewClass<TextView>(),
+    };
+    return classes;
 }
-
-struct ViewClass {
-    const char *name;
-    QWidget *(*make)(QWidget *parent);
-};
-
-constexpr ViewClass kViewClasses[] = {
-    {"ButtonView", make<ButtonView>},   {"CheckBoxView", make<CheckBoxView>},
-    {"ModalWindow", make<ModalWindow>}, {"PopupView", make<PopupView>},
-    {"RadioView", make<RadioView>},     {"SliderView", make<SliderView>},
-    {"StepperView", make<StepperView>}, {"TextFieldView", make<TextFieldView>},
-    {"TextView", make<TextView>},
-};
 
 class FormLoader : public QUiLoader {
 public:
-    FormLoader() {
+    explicit FormLoader(const std::vector<ViewClass> &moreClasses) : m_moreClasses(moreClasses) {
         clearPluginPaths();
         setLanguageChangeEnabled(false);
         setTranslationEnabled(false);
     }
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override {
-        for (const ViewClass &viewClass : kViewClasses) {
-            if (className != QLatin1String(viewClass.name))
-                continue;
-            QWidget *view = viewClass.make(parent);
-            view->setObjectName(name);
-            return view;
-        }
+        for (const auto *classes : {&platformClasses(), &m_moreClasses})
+            for (const ViewClass &viewClass : *classes)
+                if (className == viewClass.name) {
+                    QWidget *view = viewClass.make(parent);
+                    view->setObjectName(name);
+                    return view;
+                }
         return QUiLoader::createWidget(className, parent, name);
     }
+
+private:
+    const std::vector<ViewClass> &m_moreClasses;
 };
 
 /// What the form has set behind the views' backs.
@@ -69,13 +63,13 @@ QWidget *findView(QWidget *root, const QString &name) {
     return root->findChild<QWidget *>(name);
 }
 
-QWidget *load(const QString &path, QString *reason) {
+QWidget *load(const QString &path, const std::vector<ViewClass> &moreClasses, QString *reason) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *reason = file.errorString();
         return nullptr;
     }
-    FormLoader loader;
+    FormLoader loader(moreClasses);
     QWidget *root = loader.load(&file);
     if (!root)
         *reason = loader.errorString().simplified();
@@ -84,9 +78,10 @@ QWidget *load(const QString &path, QString *reason) {
 
 } // namespace
 
-QWidget *loadForm(const QString &path, const std::vector<Outlet> &outlets, QString *error) {
+QWidget *loadForm(const QString &path, const std::vector<Outlet> &outlets, QString *error,
+                  const std::vector<ViewClass> &moreClasses) {
     QString reason;
-    QWidget *root = load(path, &reason);
+    QWidget *root = load(path, moreClasses, &reason);
     if (root) {
         adoptFormState(root);
         for (QWidget *view : root->findChildren<QWidget *>())

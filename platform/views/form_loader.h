@@ -24,15 +24,30 @@ Outlet outlet(const QString &name, QPointer<View> &field) {
     return {name, [&field](QWidget *view) { field = qobject_cast<View *>(view); }};
 }
 
+/// A class of views that forms may hold as promoted widgets.
+struct ViewClass {
+    QString name;
+    QWidget *(*make)(QWidget *parent);
+};
+
+/// A class of views from above the platform layer, under the name that it bears itself.
+template <class View>
+ViewClass viewClass() {
+    return {QString::fromLatin1(View::staticMetaObject.className()),
+            [](QWidget *parent) -> QWidget * { return new View(parent); }};
+}
+
 /// Loads a Qt Designer form and connects the outlets. The classes of platform/views stand in the
 /// form as promoted widgets; what the form sets as the text of a label or a button is its title
 /// afterwards. Texts are taken as they stand: tables, not the application's translators, localise
 /// them. An outlet that the form lacks is set to null, and so is every outlet on failure.
-/// @param path   the form, a `.ui` file
-/// @param error  receives the reason in one line on failure; may be null
+/// @param path         the form, a `.ui` file
+/// @param error        receives the reason in one line on failure; may be null
+/// @param moreClasses  what this form may hold besides
 /// @return the root view without a parent, owned by the caller; null if the form can't be loaded
 PDE_PLATFORM_EXPORT QWidget *loadForm(const QString &path, const std::vector<Outlet> &outlets,
-                                      QString *error = nullptr);
+                                      QString *error = nullptr,
+                                      const std::vector<ViewClass> &moreClasses = {});
 
 /// Gives each label with a buddy and each titled button below a view a mnemonic, in tab order, no
 /// letter twice as long as letters last. Called when the titles stand, and again when they change.

@@ -54,7 +54,8 @@ void TextView::showCaption() {
         (!buddy()->accessibleName().isEmpty() && buddy()->accessibleName() != m_givenName))
         return;
     m_givenName = caption();
-    while (m_givenName.endsWith(u':') || m_givenName.endsWith(QChar(0xFF1A)))
+    while (m_givenName.endsWith(u':') || m_givenName.endsWith(QChar(0xFF1A)) ||
+           m_givenName.endsWith(QChar::Nbsp))
         m_givenName.chop(1);
     buddy()->setAccessibleName(m_givenName);
 }

@@ -177,7 +177,6 @@ protected:
     /// Calls something on every control, in order.
     template <class Call>
     void eachControl(Call call) {
-        // A callback of the host may end the panel in the middle of a sweep.
         for (size_t i = 0; fCtrlGroupArray && i < fCtrlGroupArray->size(); ++i)
             if (BaseControlKRVImageOptions *control = (*fCtrlGroupArray)[i].get())
                 call(*control);

@@ -29,23 +29,11 @@
     </message>
     <message>
         <source>Color Balance Button Text</source>
-        <translation>Farbbalance …</translation>
+        <translation>Farbbalance …</translation>
     </message>
     <message>
         <source>Image Setting Button Text</source>
-        <translation>Bildeinstellungen …</translation>
-    </message>
-    <message>
-        <source>Restore Default Button Text</source>
-        <translation>Standardwerte wiederherstellen</translation>
-    </message>
-    <message>
-        <source>OK Button Text</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel Button Text</source>
-        <translation>Abbrechen</translation>
+        <translation>Bildeinstellungen …</translation>
     </message>
     <message>
         <source>Type00-1</source>
@@ -66,6 +54,22 @@
     <message>
         <source>Type03</source>
         <translation>Typ 03</translation>
+    </message>
+    <message>
+        <source>OK Button Text</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel Button Text</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Restore Default Button Text</source>
+        <translation>Standardwerte</translation>
+    </message>
+    <message>
+        <source>Help Button Text</source>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Color Balance Window Title String</source>
@@ -109,11 +113,11 @@
     </message>
     <message>
         <source>Density Scope Statics Text</source>
-        <translation>(-3 bis 3)</translation>
+        <translation>(−3 bis 3)</translation>
     </message>
     <message>
         <source>Message??</source>
-        <translation>Geben Sie eine ganze Zahl von -3 bis 3 ein.</translation>
+        <translation>Geben Sie eine ganze Zahl von −3 bis 3 ein.</translation>
     </message>
     <message>
         <source>Alert OK Btn</source>

@@ -36,18 +36,6 @@
         <translation>Image Settings…</translation>
     </message>
     <message>
-        <source>Restore Default Button Text</source>
-        <translation>Restore Defaults</translation>
-    </message>
-    <message>
-        <source>OK Button Text</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel Button Text</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
         <source>Type00-1</source>
         <translation>Type 00-1</translation>
     </message>
@@ -66,6 +54,22 @@
     <message>
         <source>Type03</source>
         <translation>Type 03</translation>
+    </message>
+    <message>
+        <source>OK Button Text</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel Button Text</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Restore Default Button Text</source>
+        <translation>Restore Defaults</translation>
+    </message>
+    <message>
+        <source>Help Button Text</source>
+        <translation>Help</translation>
     </message>
     <message>
         <source>Color Balance Window Title String</source>
@@ -109,11 +113,11 @@
     </message>
     <message>
         <source>Density Scope Statics Text</source>
-        <translation>(-3 to 3)</translation>
+        <translation>(−3 to 3)</translation>
     </message>
     <message>
         <source>Message??</source>
-        <translation>Enter a whole number from -3 to 3.</translation>
+        <translation>Enter a whole number from −3 to 3.</translation>
     </message>
     <message>
         <source>Alert OK Btn</source>

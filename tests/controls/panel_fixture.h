@@ -116,6 +116,8 @@ protected:
     QWidget window;
     PpdPtr ppd;
     std::shared_ptr<TestHost> host;
-    BasePrintPanelKRVImageOptions panel;
+    struct : BasePrintPanelKRVImageOptions {
+        using BasePrintPanelKRVImageOptions::takeLocalizeTable;
+    } panel;
     QStringList log;
 };

@@ -75,11 +75,17 @@ TEST_F(PopupTest, ValueAtEachStage) {
     panel.Open();
     EXPECT_EQ(shown(mode), 2) << "a mark of somebody else's";
     EXPECT_EQ(mode->GetValueFromControl()->word(), 3);
+    EXPECT_TRUE(mode->valueChanged());
 }
 
 TEST_F(PopupTest, ChoiceIsToldToTheHostAndConflictsFollow) {
     build(kPpd);
     panel.UpdateConflictsPanelControlFromPPD(ppd.get());
+    for (const auto &[option, choice, forbids] :
+         {std::tuple(kType, "Photo", true), std::tuple(kType, "CAD", false),
+          std::tuple(kMode, "Photo", false)})
+        EXPECT_EQ(mode->isChoiceConflicted("QZColorMode:Black", option, choice, ppd.get()),
+                  forbids);
     EXPECT_FALSE(menu(mode)->isItemEnabled(1)) << "Photo forbids Black";
     EXPECT_FALSE(menu(mode)->chooseItem(1));
     EXPECT_EQ(host->marked(kMode), "Color");

@@ -110,6 +110,13 @@ TEST_F(RadioTest, GroupKnowsItsCurrentButton) {
     EXPECT_TRUE(basic->IsChecked());
     EXPECT_EQ(group.GetcurRadio(), 0);
 
+    advanced->SetExternalValueToUI(&on, sizeof on);
+    EXPECT_FALSE(advanced->InitializeConstrains());
+    const int32_t off = 0;
+    advanced->SetExternalValueToUI(&off, sizeof off);
+    EXPECT_TRUE(advanced->InitializeConstrains());
+    EXPECT_EQ(b->constrainCount(), 1);
+
     basic->SetCtrlGrp(nullptr);
     basic->Update();
     EXPECT_TRUE(basic->IsChecked()) << "without a group it stays as it is";

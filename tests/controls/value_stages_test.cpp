@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int kTag = 1;
-const char *const kMenuKeys[] = {"A", "B", "C", nullptr};
+const char *const kMenuKeys[] = {"Known", "B", "C", nullptr};
 const CtrlAccessInfo kAccess{.ticketKey = "a.key"};
 const QString &kUser = kControlUserCurrent;
 
@@ -64,12 +64,13 @@ TEST_F(ValueStagesTest, PlainFamilies) {
         BaseControlKRVImageOptions *(ValueStagesTest::*build)();
         const char *preset;
         int opened, acted, byDefault;
-        const char *summary; ///< after the act
+        const char *summary;        ///< after the act
+        bool takesDisabled, saysSo; ///< a value from outside into a disabled view
     } rows[] = {
-        {"popup", &ValueStagesTest::popup, "2x", 2, 3, 1, nullptr},
-        {"check box", &ValueStagesTest::checkBox, "1", 1, 0, 0, nullptr},
-        {"radio", &ValueStagesTest::radio, " 0", 0, 1, 0, nullptr},
-        {"stepper", &ValueStagesTest::stepper, "-12", -12, -11, 4, "Number=-1.1"},
+        {"popup", &ValueStagesTest::popup, "2x", 2, 3, 1, nullptr, true, true},
+        {"check box", &ValueStagesTest::checkBox, "1", 1, 0, 0, nullptr, false, false},
+        {"radio", &ValueStagesTest::radio, " 0", 0, 1, 0, nullptr, true, false},
+        {"stepper", &ValueStagesTest::stepper, "-12", -12, -11, 4, "Number=-1.1", true, true},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
@@ -96,6 +97,13 @@ TEST_F(ValueStagesTest, PlainFamilies) {
         EXPECT_TRUE(control->SetControlValueToUI());
         EXPECT_EQ(control->GetValueFromUI()->word(), 1);
         EXPECT_FALSE(control->ConvertFromPreferenceString(nullptr));
+        EXPECT_TRUE(control->ConvertFromPreferenceString("99999999999999999999"));
+        EXPECT_EQ(control->GetValueFromControl()->word(), INT32_MAX);
+
+        const int32_t outside = row.acted;
+        control->Disable();
+        EXPECT_EQ(control->SetExternalValueToUI(&outside, sizeof outside), row.saysSo);
+        EXPECT_EQ(control->GetValueFromUI()->word(), row.takesDisabled ? outside : 1);
 
         host->settings = PrintSettings();
         EXPECT_FALSE(control->GetValueToPreset());
@@ -104,6 +112,10 @@ TEST_F(ValueStagesTest, PlainFamilies) {
         delete control->GetControlPtr(); // as a host may: every question has an answer still
         EXPECT_FALSE(control->SetControlValueToUI());
         EXPECT_TRUE(save(control));
+        const bool radio = row.build == &ValueStagesTest::radio; // answers for what it showed last
+        EXPECT_EQ(control->GetValueFromUI() != nullptr, radio);
+        panel.SetValueFromUIToControl();
+        EXPECT_EQ(control->GetValueFromControl()->word(), radio ? row.acted : row.byDefault);
     }
 }
 
@@ -114,6 +126,20 @@ TEST_F(ValueStagesTest, NumberOutsideTheRangeIsntWritten) {
     EXPECT_TRUE(control->ConvertFromPreferenceString("31"));
     EXPECT_FALSE(save(control));
     EXPECT_FALSE(host->settings.find("a.key"));
+}
+
+TEST_F(ValueStagesTest, TextsComeFromThePanelsTableOrTheDefaultOne) {
+    open("*QZLocalizableFileIndex: \"01\"\n");
+    panel.takeLocalizeTable(ppd.get());
+    boxRecord.titleKey = radioRecord.titleKey = "Known";
+    auto *list = qobject_cast<PopupView *>(popup()->GetControlPtr());
+    auto *box = qobject_cast<CheckBoxView *>(checkBox()->GetControlPtr());
+    auto *button = qobject_cast<RadioView *>(radio()->GetControlPtr());
+    start();
+    EXPECT_EQ(list->itemTitle(0), "indexed text");
+    EXPECT_EQ(list->itemTitle(1), "B") << "a key without translation shows itself";
+    EXPECT_EQ(box->title(), "indexed text");
+    EXPECT_EQ(button->title(), "default text");
 }
 
 TEST_F(ValueStagesTest, TitlesNeedABundleAndAKey) {

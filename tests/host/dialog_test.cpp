@@ -3,6 +3,8 @@
 #include "host/bundle_loader.h"
 #include "host/dialog.h"
 
+#include "platform/views/modal_window.h"
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -27,7 +29,7 @@ View *find(QWidget *window, const QString &text) {
 TEST(Dialog, ShowsPanelAndSummaryAndCancels) {
     host::PanelStage stage(host::openPpdFile(samplePath("velmora-mvo-530.ppd")),
                            *host::loadBundle(BUNDLE_DIR));
-    bool summaryShown = false;
+    bool summaryShown = false, survivedEscape = false;
     {
         host::PrintDialog dialog(stage, false, samplePath("sample.ps"));
         ASSERT_TRUE(find<QLabel>(&dialog, "Printer: velmora-mvo-530"));
@@ -39,10 +41,19 @@ TEST(Dialog, ShowsPanelAndSummaryAndCancels) {
                 window->close();
             });
             find<QPushButton>(&dialog, "Summary...")->click();
+
+            QTimer::singleShot(0, &dialog, [&] {
+                ASSERT_TRUE(ModalWindow::current());
+                dialog.reject();
+                survivedEscape = dialog.isVisible();
+                ModalWindow::current()->reject();
+            });
+            dialog.findChild<QPushButton *>("colorbalanceButtonCtrl")->click();
             dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
         });
         EXPECT_EQ(dialog.exec(), QDialog::Rejected);
     }
     EXPECT_TRUE(summaryShown);
+    EXPECT_TRUE(survivedEscape) << "a child window of the panel stood before the dialog";
     EXPECT_FALSE(stage.isOpen());
 }

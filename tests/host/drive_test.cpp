@@ -163,3 +163,50 @@ TEST(Inspect, PrintsTheOpenedPanel) {
     EXPECT_EQ(view(state, 101, "kind"), "popup");
     EXPECT_EQ(view(state, 1041, "kind"), "radio");
 }
+
+TEST(Drive, ModalWindowIsServedWhileItStands) {
+    QTemporaryDir folder;
+    const QList<Command> commands{
+        {"{\"do\":\"open\"}", true},
+        {"{\"do\":\"click\",\"view\":\"colorbalanceButtonCtrl\"}", true},
+        {"{\"do\":\"state\"}", true},
+        {"{\"do\":\"save\"}", false, "is modal"},
+        {"{\"do\":\"willShow\"}", false, "is modal"},
+        {"{\"do\":\"summary\"}", false, "is modal"},
+        {"{\"do\":\"select\",\"tag\":101,\"index\":1}", false, "is modal"},
+        {"{\"do\":\"step\",\"tag\":3600,\"by\":1}", false, "disabled"},
+        {"{\"do\":\"click\",\"tag\":3101}", true},
+        {"{\"do\":\"step\",\"tag\":3601,\"by\":1}", false, "hidden"},
+        {"{\"do\":\"type\",\"tag\":3500,\"text\":\"-2\"}", true},
+        {"{\"do\":\"step\",\"tag\":3600,\"by\":-3}", true},
+        {"{\"do\":\"state\"}", true},
+        {"{\"do\":\"click\",\"tag\":3703}", true},
+        {"{\"do\":\"state\"}", true},
+        {"{\"do\":\"save\"}", true},
+        {"{\"do\":\"state\"}", true},
+        {"{\"do\":\"click\",\"tag\":110}", true},
+        {"{\"do\":\"step\",\"tag\":3600,\"by\":6}", true},
+        {"{\"do\":\"close\"}", true}, // presses Cancel
+        {"{\"do\":\"state\"}", true},
+        {"{\"do\":\"open\"}", true},
+        {"{\"do\":\"state\"}", true},
+        {"{\"do\":\"click\",\"tag\":110}", true}, // the input ends with the window open
+    };
+    const auto answers = drive(commands, folder);
+    const QJsonValue title = answers[2]["window"];
+    EXPECT_FALSE(title.isNull());
+    EXPECT_EQ(view(answers[2], 3600, "window"), title);
+    EXPECT_TRUE(view(answers[2], 101, "window").isNull());
+    EXPECT_EQ(view(answers[2], 3600, "enabled"), false);
+    EXPECT_EQ(view(answers[2], 3601, "hidden"), true);
+    EXPECT_EQ(view(answers[12], 3600, "value"), -3);
+    EXPECT_EQ(view(answers[12], 3500, "value"), "-3");
+    EXPECT_EQ(answers[12]["beeps"], 1) << "the second step down met the end of the range";
+    EXPECT_TRUE(answers[14]["window"].isNull());
+    EXPECT_EQ(answers[14]["marks"]["QZColorDensityBlackLow"], "0")
+        << "a density waits for the save";
+    EXPECT_EQ(answers[16]["marks"]["QZColorDensityBlackLow"], "-3");
+    EXPECT_TRUE(answers[20]["views"].toArray().isEmpty());
+    EXPECT_EQ(answers[20]["marks"]["QZColorDensityBlackLow"], "-3") << "cancelled";
+    EXPECT_EQ(view(answers[22], 3600, "value"), -3);
+}

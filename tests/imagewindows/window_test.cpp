@@ -1,7 +1,7 @@
 #include "main_panel_fixture.h"
 
+#include "controls/popup_family.h"
 #include "controls/text_entry_family.h"
-#include "imagewindows/rgb_correction_list.h"
 #include "imagewindows/window_buttons.h"
 #include "platform/views/button_view.h"
 #include "platform/views/modal_window.h"
@@ -16,12 +16,6 @@ namespace {
 class Field : public TextEditCtrlKRVImageOptions {
 public:
     bool InvalidateData() override { return ctrlUIDataBlkPtr->text() != QByteArray("bad"); }
-};
-
-class RestoringWindow : public PopupWinInPanelKRVImageOptions {
-public:
-    void RestoreMarkedPPD() override { list->RestorePPD(GetCurrentPPD()); }
-    PPDPopupControlKRVImageOptions *list = nullptr;
 };
 
 class WindowTest : public MainPanelTest {
@@ -165,38 +159,6 @@ TEST_F(WindowTest, SettingsButtonAsksForTheFormByOneOption) {
         }
         delete opener;
     }
-}
-
-TEST_F(WindowTest, AdjustmentOkMirrorsAndCancelPutsMarksBack) {
-    window = std::make_unique<RestoringWindow>();
-    build<GOKButtonIAKRV, GImageAdjCancelButtonKRV>(
-        ppdOption(kRgb, {"None", "Perceptual", "Vivid"}, "Perceptual") +
-        ppdOption(kCmyk, {"X", "Y"}));
-    panel.rgb = addList<RGBCorrectionListCtrlKRV>(panel, kRgb, rgbColorCorrectonListTag);
-    panel.cmyk = addList<GPPDListCtrlKRV>(panel, kCmyk, cmykColorCorrectionListTag);
-    auto *rgb = addList<RGBCorrectionListCtrlIAKRV>(*window, kRgb, RGBColorCorrectionIAListTag);
-    auto *cmyk = addList<GPPDListCtrlKRV>(*window, kCmyk, CMYKCorrectionPopupButtonTag);
-    static_cast<RestoringWindow *>(window.get())->list = rgb;
-    start();
-
-    EXPECT_TRUE(run([&] {
-        menu(rgb)->chooseItem(1);
-        EXPECT_EQ(host->marked(kRgb), "Vivid");
-        cancel->click();
-    }));
-    EXPECT_EQ(host->marked(kRgb), "Perceptual");
-    EXPECT_EQ(shown(panel.rgb), 0);
-    for (const int item : {0, 1}) {
-        EXPECT_TRUE(run([&] {
-            menu(rgb)->chooseItem(1);
-            menu(cmyk)->chooseItem(item);
-            text->setStringValue("bad"); // isn't asked here
-            ok->click();
-        }));
-        EXPECT_EQ(shown(panel.rgb), 1);
-        EXPECT_EQ(shown(panel.cmyk), item);
-    }
-    EXPECT_EQ(panel.rgb->GetValueFromControl()->word(), 1) << "the main panel commits at its save";
 }
 
 } // namespace

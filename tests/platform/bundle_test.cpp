@@ -43,12 +43,15 @@ TEST_F(BundleTest, LooksTextsUpInTheBestLanguageThatHasTheTable) {
     folder.writeTable("Localizable_en.qm", "English");
     folder.writeTable("Localizable_de.qm", "Käse &amp; Brot");
     folder.writeTable("Localizable01_en.qm", "Second");
+    folder.writeTable("Localizable_zh_CN.qm", "Chinese");
     folder.write("Resources/Localizable_fr.qm", "no table at all");
     // clang-format off
     const std::tuple<QStringList, QString, QString, QString> cases[] = {
         {{"de_CH"}, "Title", {}, "Käse & Brot"}, {{"ja", "de"}, "Title", "", "Käse & Brot"},
         {{"ja"}, "Title", {}, "English"},        {{"fr"}, "Title", {}, "English"},
         {{"de"}, "Other", {}, "fallback"},       {{"de"}, "Title", "Localizable01", "Second"},
+        {{"zh"}, "Title", {}, "Chinese"},        {{"zh-Hans-SG"}, "Title", {}, "Chinese"},
+        {{"zh-Hant-TW"}, "Title", {}, "English"},
         {{"de"}, "Title", "../Localizable", "fallback"}};
     // clang-format on
     for (const auto &[languages, key, table, text] : cases) {
