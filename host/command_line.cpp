@@ -151,7 +151,9 @@ QString usage() {
   dialog   shows the print dialog; without a queue, that of CUPS' default queue
   print    prints unattended: to a file, or with --queue and no --to to CUPS
   inspect  prints the panel's state as JSON
-  drive    obeys JSON commands from standard input, one to a line
+  drive    obeys JSON commands from standard input, one to a line: open, state,
+           summary, select, click, step, slide, type, mark, setting, willShow,
+           restore, shouldPrint, save, print, help, shot, alert, close
   list     prints the queues of CUPS, and which have the panel
 
   --ppd FILE            a PPD file stands for the queue

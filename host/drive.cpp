@@ -10,6 +10,7 @@
 #include "host/line_reader.h"
 #include "host/panel_stage.h"
 #include "host/print.h"
+#include "platform/help_viewer.h"
 #include "platform/ppd_marks.h"
 #include "platform/views/alert.h"
 #include "platform/views/modal_window.h"
@@ -219,8 +220,11 @@ QJsonObject Driver::act(const QJsonObject &command) {
 
 void Driver::answer(const QJsonObject &reply) {
     const QByteArray line = QJsonDocument(reply).toJson(QJsonDocument::Compact) + '\n';
-    std::fwrite(line.constData(), 1, size_t(line.size()), stdout);
-    std::fflush(stdout);
+    const size_t written = std::fwrite(line.constData(), 1, size_t(line.size()), stdout);
+    if (written == size_t(line.size()) && std::fflush(stdout) == 0)
+        return;
+    m_lines.clear(); // nobody reads any more
+    m_inputEnded = true;
 }
 
 QJsonObject Driver::open(const QJsonObject &) {
@@ -318,7 +322,9 @@ QJsonObject Driver::shot(const QJsonObject &command) {
     const QString path = command[QStringLiteral("to")].toString();
     if (path.isEmpty())
         return refused(QStringLiteral("\"to\" must be a file's name"));
-    QWidget *front = QApplication::activeModalWidget();
+    QWidget *front = command[QStringLiteral("of")] == QLatin1String("help")
+                         ? helpViewerWindow()
+                         : QApplication::activeModalWidget();
     Outputs outputs({m_stage.source().path});
     outputs.add(path, pngContent((front ? front : m_stage.window())->grab()));
     outputs.commit();

@@ -2,6 +2,7 @@
 
 #include "host/drive_views.h"
 #include "host/panel_stage.h"
+#include "platform/help_viewer.h"
 #include "platform/views/alert.h"
 #include "platform/views/modal_window.h"
 #include "platform/views/view.h"
@@ -20,6 +21,15 @@ QJsonObject marksJson(ppd_file_t *ppd) {
     return marks;
 }
 
+/// The page of the help viewer, "NAME.htm#ANCHOR"; null while none is shown.
+QJsonValue helpJson() {
+    const QWidget *viewer = helpViewerWindow();
+    if (!viewer || !viewer->isVisible())
+        return {};
+    const QUrl page = helpViewerPage();
+    return page.fileName() + (page.hasFragment() ? u'#' + page.fragment() : QString());
+}
+
 } // namespace
 
 QJsonObject stateJson(PanelStage &stage) {
@@ -33,6 +43,7 @@ QJsonObject stateJson(PanelStage &stage) {
     return {
         {"window", window ? QJsonValue(window->windowTitle()) : QJsonValue()},
         {"alert", alert.isNull() ? QJsonValue() : QJsonValue(alert)},
+        {"help", helpJson()},
         {"views", views},
         {"marks", marksJson(stage.source().ppd.get())},
         {"ticket", ticketJson(stage.callback().settings())},

@@ -16,28 +16,11 @@
 #include "platform/views/popup_view.h"
 #include "platform/views/text_view.h"
 #include "ppd/constraint_cache.h"
-#include "ppd/constraint_table.h"
 #include "ppd/ppd_keys.h"
 #include "ppd/ppd_query.h"
 #include "services/bundle_identity.h"
 
 #include <algorithm>
-
-namespace {
-
-constexpr size_t kConstraintTableRequest = 100;
-
-std::shared_ptr<hash_multimap> constraintTable(ppd_file_t *ppd) {
-    const QString attribute = QString::fromUtf8(kQZCDFFileKey);
-    auto table = std::make_shared<hash_multimap>(kConstraintTableRequest);
-    if (CDFKeyExist(ppd, attribute))
-        GetXPPD(ppd, table.get(), QStringLiteral("ImageOptionPDE"), attribute);
-    else
-        xSetxppd(ppd, table.get());
-    return table;
-}
-
-} // namespace
 
 ImageAdjustmentWindow::~ImageAdjustmentWindow() {
     terminate(); // the controls let go of their views first
@@ -156,7 +139,7 @@ int32_t ImageAdjustmentWindow::InitializeUserPane(const Bundle *bundle, ppd_file
     SetxppdPtr(nullptr);
     PopupWinInPanelKRVImageOptions::InitializeUserPane(bundle, ppd);
     DoGroupBoxHideCheck(ppd);
-    SetxppdPtr(constraintTable(ppd));
+    SetxppdPtr(makeConstraintTable(ppd));
     if (const int32_t status = InitializeUserPaneControl(bundle, ppd))
         return status;
     SetControlEventHandler();

@@ -10,18 +10,9 @@
 #include "platform/log.h"
 #include "platform/pde/pde_plugin_callback.h"
 #include "ppd/constraint_cache.h"
-#include "ppd/constraint_table.h"
 #include "ppd/panel_options.h"
-#include "ppd/ppd_query.h"
-#include "ppd/product_type.h"
 #include "services/bundle_identity.h"
 #include "services/help.h"
-
-namespace {
-
-constexpr size_t kConstraintTableRequest = 100;
-
-} // namespace
 
 ImageOptionsPDEk27::ImageOptionsPDEk27()
     : colorBalanceWndPtr(std::make_unique<ColorBalanceWndKRV>()),
@@ -73,13 +64,7 @@ QString ImageOptionsPDEk27::panelKind() {
 }
 
 void ImageOptionsPDEk27::buildConstraintTable(ppd_file_t *ppd) {
-    const QString attribute = QString::fromUtf8(kQZCDFFileKey);
-    auto table = std::make_shared<hash_multimap>(kConstraintTableRequest);
-    if (CDFKeyExist(ppd, attribute))
-        GetXPPD(ppd, table.get(), QStringLiteral("ImageOptionPDE"), attribute);
-    else
-        xSetxppd(ppd, table.get());
-    xppd = std::move(table);
+    xppd = makeConstraintTable(ppd);
     m_tablePPD = ppd;
 }
 

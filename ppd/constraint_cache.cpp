@@ -1,6 +1,7 @@
 #include "ppd/constraint_cache.h"
 
 #include "ppd/constraint_table.h"
+#include "ppd/ppd_keys.h"
 #include "ppd/ppd_query.h"
 #include "ppd/regular_file.h"
 #include "services/system_version.h"
@@ -48,6 +49,17 @@ void readEntries(const std::string &line, hash_multimap &table) {
 }
 
 } // namespace
+
+std::shared_ptr<hash_multimap> makeConstraintTable(ppd_file_t *ppd) {
+    constexpr size_t kRequest = 100;
+    const QString attribute = QString::fromUtf8(kQZCDFFileKey);
+    auto table = std::make_shared<hash_multimap>(kRequest);
+    if (CDFKeyExist(ppd, attribute))
+        GetXPPD(ppd, table.get(), QStringLiteral("ImageOptionPDE"), attribute);
+    else
+        xSetxppd(ppd, table.get());
+    return table;
+}
 
 int32_t GetXPPD(ppd_file_t *ppd, hash_multimap *table, const QString &sectionBase,
                 const QString &attribute) {

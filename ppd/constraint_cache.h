@@ -8,6 +8,7 @@
 #include <array>
 #include <istream>
 #include <list>
+#include <memory>
 #include <ostream>
 #include <string>
 
@@ -41,6 +42,11 @@ inline const std::string STRPPDSTAMP = "*% Last Edit Date:";
 ///         as it was.
 int32_t GetXPPD(ppd_file_t *ppd, hash_multimap *table, const QString &sectionBase,
                 const QString &attribute);
+
+/// A new table of this panel's options: from the cache file, if the PPD names one, whatever it
+/// holds; else from the PPD's constraints.
+/// @param ppd  not null
+std::shared_ptr<hash_multimap> makeConstraintTable(ppd_file_t *ppd);
 
 /// One section to write.
 struct x_PDEConstr {

@@ -96,19 +96,23 @@ QByteArray text(const QJsonValue &value) {
 }
 
 /// "PATH VALUE", "PATH has VALUE" for an array's element or a part of a text, "PATH lacks VALUE".
+/// "3500,3510.hidden true" speaks of each of the views.
 void check(QByteArray line, const QJsonObject &answer) {
-    const QByteArray path = firstWord(line);
+    const QByteArray path = firstWord(line), names = path.split('.').first();
     const bool has = line.startsWith("has "), lacks = line.startsWith("lacks ");
     if (has || lacks)
         firstWord(line);
     const QJsonDocument wrapped = QJsonDocument::fromJson('[' + line + ']');
     ASSERT_EQ(wrapped.array().size(), 1) << "no JSON value: " << line.constData();
-    const QJsonValue expected = wrapped.array().first(), found = find(answer, path);
-    const bool contains = found.isArray() ? found.toArray().contains(expected)
-                                          : found.toString().contains(expected.toString());
-    EXPECT_TRUE(has || lacks ? !found.isUndefined() && contains == has : found == expected)
-        << path.constData() << " is " << text(found).left(600).constData()
-        << answer["why"].toString().toStdString();
+    const QJsonValue expected = wrapped.array().first();
+    for (const QByteArray &name : names.split(',')) {
+        const QJsonValue found = find(answer, name + path.mid(names.size()));
+        const bool contains = found.isArray() ? found.toArray().contains(expected)
+                                              : found.toString().contains(expected.toString());
+        EXPECT_TRUE(has || lacks ? !found.isUndefined() && contains == has : found == expected)
+            << name.constData() << " of " << path.constData() << " is "
+            << text(found).left(600).constData() << answer["why"].toString().toStdString();
+    }
 }
 
 TEST(Scenarios, Hold) {
