@@ -1,50 +1,21 @@
 #include "host/files.h"
 
 #include "host/host_error.h"
+#include "platform/file_content.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
 
-#include <cerrno>
-#include <cstring>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace host {
 
 QByteArray readRegularFile(const QString &path, qint64 limit) {
-    const auto systemReason = [] { return QString::fromLocal8Bit(std::strerror(errno)); };
-    const int fd =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    if (fd < 0)
-        throw HostError(path, systemReason());
-    QFile file;
-    if (!file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        ::close(fd);
-        throw HostError(path, file.errorString());
-    }
-    struct stat info = {};
-    if (::fstat(fd, &info) != 0)
-        throw HostError(path, systemReason());
-    if (!S_ISREG(info.st_mode))
-        throw HostError(path, S_ISDIR(info.st_mode) ? QStringLiteral("is a directory")
-                                                    : QStringLiteral("is not a regular file"));
-    if (info.st_size > limit)
-        throw HostError(path, QStringLiteral("is larger than %1 MB").arg(limit >> 20));
-    const QByteArray content = file.read(limit);
-    if (file.error() != QFileDevice::NoError)
-        throw HostError(path, file.errorString());
-    return content;
-}
-
-bool isSameFile(const QString &first, const QString &second) {
-    const QString path = QFileInfo(first).canonicalFilePath();
-    return !path.isEmpty() && path == QFileInfo(second).canonicalFilePath();
+    QString reason;
+    const auto content = ::readRegularFile(path, limit, &reason);
+    if (!content)
+        throw HostError(path, reason);
+    return *content;
 }
 
 Outputs::Outputs(const QStringList &inputs) : m_inputs(inputs) {}

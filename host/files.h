@@ -13,13 +13,8 @@ class QSaveFile;
 
 namespace host {
 
-/// Reads a whole regular file. A FIFO, device or directory is refused at once and never waited for.
-/// @param limit  the greatest size taken, in bytes
-/// @throw HostError with the system's reason
+/// As platform's readRegularFile(). @throw HostError with its reason
 QByteArray readRegularFile(const QString &path, qint64 limit);
-
-/// @return whether two names lead to one file that exists
-bool isSameFile(const QString &first, const QString &second);
 
 /// The files that one command writes: all of them appear together, or none does.
 class Outputs {

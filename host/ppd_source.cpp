@@ -1,70 +1,20 @@
 #include "host/ppd_source.h"
 
 #include "host/cups_server.h"
-#include "host/files.h"
 #include "host/host_error.h"
-#include "host/ppd_integrity.h"
+#include "platform/ppd_file.h"
 #include "platform/ppd_marks.h"
 
 #include <QFileInfo>
 
-#include <cups/file.h>
-
-#include <cstdio>
-#include <memory>
-
-#include <unistd.h>
-
 namespace host {
 namespace {
 
-constexpr qint64 kGreatestPpd = 64 << 20;
-
-struct CupsFileCloser {
-    void operator()(cups_file_t *file) const { cupsFileClose(file); }
-};
-
-/// What libcups reads from the file: the text, unpacked where it is gzipped.
-QByteArray unpacked(int fd, const QString &subject) {
-    const std::unique_ptr<cups_file_t, CupsFileCloser> file(cupsFileOpenFd(dup(fd), "r"));
-    QByteArray text, block(64 << 10, Qt::Uninitialized);
-    // At the end of the file libcups answers as at a failure; the text is judged by what it lacks.
-    for (ssize_t count;
-         file && (count = cupsFileRead(file.get(), block.data(), size_t(block.size()))) > 0;) {
-        text.append(block.constData(), count);
-        if (text.size() > kGreatestPpd)
-            throw HostError(subject, QStringLiteral("is too large for a PPD file"));
-    }
-    return text;
-}
-
-/// @param content  the file as it was read
-PpdPtr parsePpd(const QByteArray &content, const QString &subject) {
-    if (content.isEmpty())
-        throw HostError(subject, QStringLiteral("is empty"));
-    const std::unique_ptr<FILE, int (*)(FILE *)> file(std::tmpfile(), std::fclose);
-    if (!file ||
-        fwrite(content.constData(), 1, size_t(content.size()), file.get()) !=
-            size_t(content.size()) ||
-        fflush(file.get()) != 0)
-        throw HostError(subject, QStringLiteral("no room for a temporary file"));
-    const int fd = fileno(file.get());
-    const auto atLine = [&](int line, const QString &reason) {
-        return HostError(subject, QStringLiteral("line %1: %2").arg(line).arg(reason));
-    };
-
-    lseek(fd, 0, SEEK_SET);
-    PpdPtr ppd(ppdOpenFd(dup(fd)));
-    if (!ppd) {
-        int line = 0;
-        const ppd_status_t status = ppdLastError(&line);
-        throw atLine(qMax(line, 1), QString::fromUtf8(ppdErrorString(status)));
-    }
-    lseek(fd, 0, SEEK_SET);
-    if (const auto fault = findTruncation(unpacked(fd, subject)))
-        throw atLine(fault->line, fault->reason);
-    ppdMarkDefaults(ppd.get());
-    return ppd;
+PpdPtr taken(PpdFile file, const QString &subject) {
+    if (!file.ppd)
+        throw HostError(subject, file.reason);
+    ppdMarkDefaults(file.ppd.get());
+    return std::move(file.ppd);
 }
 
 /// The number or text of a custom value's parameter, as ppdMarkOption reads it.
@@ -106,12 +56,11 @@ QString customChoice(ppd_file_t *ppd, const ppd_option_t &option) {
 } // namespace
 
 PpdSource openPpdFile(const QString &path) {
-    return {parsePpd(readRegularFile(path, kGreatestPpd), path),
-            Printer{QFileInfo(path).completeBaseName()}, path};
+    return {taken(readPpdFile(path), path), Printer{QFileInfo(path).completeBaseName()}, path};
 }
 
 PpdSource openQueue(CupsServer &server, const QString &queue) {
-    return {parsePpd(server.ppd(queue), queue), Printer{queue}};
+    return {taken(parsePpdFile(server.ppd(queue)), queue), Printer{queue}};
 }
 
 void markChoices(const PpdSource &source, const QList<QPair<QString, QString>> &marks) {

@@ -1,6 +1,5 @@
-#include "host/ppd_integrity.h"
+#include "platform/ppd_integrity.h"
 
-namespace host {
 namespace {
 
 /// What an Open statement opened and no Close statement has closed yet.
@@ -101,5 +100,3 @@ std::optional<PpdFault> findTruncation(const QByteArray &text) {
                                                    QString::fromUtf8(open[i].name))};
     return std::nullopt;
 }
-
-} // namespace host

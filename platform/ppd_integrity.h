@@ -5,8 +5,6 @@
 
 #include <optional>
 
-namespace host {
-
 /// Where a PPD file breaks off.
 struct PpdFault {
     int line; ///< from 1
@@ -19,5 +17,3 @@ struct PpdFault {
 /// @param text  the file; lines end in LF, CR LF or CR
 /// @return the first trace, or nothing
 std::optional<PpdFault> findTruncation(const QByteArray &text);
-
-} // namespace host
