@@ -78,24 +78,13 @@ TEST_F(PopupTest, ValueAtEachStage) {
     EXPECT_TRUE(mode->valueChanged());
 }
 
-TEST_F(PopupTest, ChoiceIsToldToTheHostAndConflictsFollow) {
+TEST_F(PopupTest, ConflictWithOneOtherChoice) {
     build(kPpd);
-    panel.UpdateConflictsPanelControlFromPPD(ppd.get());
     for (const auto &[option, choice, forbids] :
          {std::tuple(kType, "Photo", true), std::tuple(kType, "CAD", false),
           std::tuple(kMode, "Photo", false)})
         EXPECT_EQ(mode->isChoiceConflicted("QZColorMode:Black", option, choice, ppd.get()),
                   forbids);
-    EXPECT_FALSE(menu(mode)->isItemEnabled(1)) << "Photo forbids Black";
-    EXPECT_FALSE(menu(mode)->chooseItem(1));
-    EXPECT_EQ(host->marked(kMode), "Color");
-
-    ASSERT_TRUE(menu(type)->chooseItem(2));
-    EXPECT_TRUE(menu(mode)->isItemEnabled(1));
-    ASSERT_TRUE(menu(mode)->chooseItem(1));
-    EXPECT_FALSE(menu(type)->isItemEnabled(1));
-    EXPECT_EQ(shown(type), 2);
-    EXPECT_EQ(host->calls, Calls({{kType, "CAD"}, {kMode, "Black"}}));
 }
 
 TEST_F(PopupTest, RefusedChoiceGoesBackToTheItemShown) {
@@ -129,17 +118,6 @@ TEST_F(PopupTest, DefaultThatIsNoChoiceLeavesTheRecord) {
     build(body.replace("*DefaultQZRGBImageType: A", "*DefaultQZRGBImageType: Unknown"));
     EXPECT_EQ(typeRecord.defaultValue, 3u);
     EXPECT_EQ(shown(type), 2) << "no mark: the record's default";
-}
-
-TEST_F(PopupTest, SummaryLeavesOutWhatIsHeldDown) {
-    build(kPpd);
-    const QStringList both{"Colour & More=Color label", "QZRGBImageType title=Photo label"};
-    EXPECT_EQ(summary(), both);
-    type->Disable();
-    EXPECT_EQ(summary(), both.first(1));
-    type->Enable();
-    mode->Hide();
-    EXPECT_EQ(summary(), both.last(1));
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "controls/slider_family.h"
 #include "controls/static_text_family.h"
-#include "platform/ppd_marks.h"
 #include "platform/views/slider_view.h"
 
 namespace {
@@ -75,24 +74,13 @@ TEST_F(SliderTest, PositionsAreTheRowsFromTheHighestDown) {
     }
 }
 
-TEST_F(SliderTest, MoveIsMarkedAtEverySaveAndNotBefore) {
+TEST_F(SliderTest, RefusalsAndValuesFromOutside) {
     build(brightness(7, "Row3"));
-    ASSERT_TRUE(sliderView->slideTo(2));
-    EXPECT_TRUE(host->calls.isEmpty());
-    panel.SetValueFromUIToControl();
-    for (int round = 0; round < 2; ++round) {
-        EXPECT_TRUE(save(slider));
-        EXPECT_EQ(host->calls, Calls({{kKey, "Row1"}}));
-    }
     host->refuses = true;
     EXPECT_FALSE(save(slider) || slider->GetValueToPreset());
     host->refuses = false;
     slider->ReInitializeCtrl(nullptr, ppd.get());
     EXPECT_EQ(record.maxValue, 3) << "the rows are counted once";
-    markChoice(ppd.get(), kKey, "Row6");
-    panel.Open();
-    EXPECT_EQ(sliderView->intValue(), -3);
-    EXPECT_EQ(slider->GetValueFromControl()->word(), -3);
     const int32_t far = 40;
     EXPECT_TRUE(slider->SetExternalValueToUI(&far, sizeof far));
     EXPECT_EQ(sliderView->intValue(), 3);

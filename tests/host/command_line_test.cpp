@@ -79,6 +79,7 @@ TEST(CommandLine, BadInput) {
         {{"print", "--ppd", ppd, "--to", document, document}, document.toUtf8() + ": is read by"},
         {{"print", "--ppd", ppd, "--to", "x.ps", "--ticket", ".", document}, ".: is not a regular"},
         {{"dialog", "--ppd", ppd, "no.ps"}, "no.ps: No such file"},
+        {{"inspect", "--ppd", ppd, "--language", "klingon"}, "--language klingon: is no"},
     };
     for (const auto &c : cases) {
         const HostRun run = runHost(c.arguments, folder.path());

@@ -4,6 +4,7 @@
 #include "host/dialog.h"
 
 #include "platform/views/modal_window.h"
+#include "platform/views/view.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -34,13 +35,26 @@ TEST(Dialog, ShowsPanelAndSummaryAndCancels) {
         host::PrintDialog dialog(stage, false, samplePath("sample.ps"));
         ASSERT_TRUE(find<QLabel>(&dialog, "Printer: velmora-mvo-530"));
         ASSERT_TRUE(find<QLabel>(&dialog, stage.session().name()));
+        QList<QKeySequence> letters;
+        const auto take = [&letters](const QString &text) {
+            const QKeySequence letter = QKeySequence::mnemonic(text);
+            EXPECT_FALSE(!letter.isEmpty() && letters.contains(letter)) << text.toStdString();
+            letters.append(letter);
+        };
+        for (const auto *label : dialog.findChildren<QLabel *>())
+            if (label->buddy() && !views::isHidden(label))
+                take(label->text());
+        for (const auto *button : dialog.findChildren<QAbstractButton *>())
+            if (!views::isHidden(button))
+                take(button->text());
+        EXPECT_GT(letters.size(), 12);
         QTimer::singleShot(0, &dialog, [&] {
             QTimer::singleShot(0, &dialog, [&] {
                 QWidget *window = QApplication::activeModalWidget();
                 summaryShown = window != &dialog && find<QLabel>(window, "Color Mode");
                 window->close();
             });
-            find<QPushButton>(&dialog, "Summary...")->click();
+            find<QPushButton>(&dialog, "Summary…")->click();
 
             QTimer::singleShot(0, &dialog, [&] {
                 ASSERT_TRUE(ModalWindow::current());

@@ -19,14 +19,11 @@ public:
     bool IsColorModeAvailable() const override { return color; }
     bool isPrinting() const override { return printing; }
     PPDPopupControlKRVImageOptions *getrgbccPopupList() const override { return rgb; }
-    PPDPopupControlKRVImageOptions *getcmykccPopupList() const override { return cmyk; }
     Window *getColorBalanceWnd() const override { return balance; }
-    Window *getImageAdjustmentWnd() const override { return plain; }
-    Window *getImageAdjustmentBlackOverWnd() const override { return blackOver; }
 
     bool mailbox = false, advanced = true, color = true, printing = false;
-    PPDPopupControlKRVImageOptions *rgb = nullptr, *cmyk = nullptr;
-    Window *balance = nullptr, *plain = nullptr, *blackOver = nullptr;
+    PPDPopupControlKRVImageOptions *rgb = nullptr;
+    Window *balance = nullptr;
 };
 
 constexpr const char *kRgb = "QZRGBCorrection", *kCmyk = "QZCMYKCorrectionSTD";

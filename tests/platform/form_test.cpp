@@ -67,7 +67,7 @@ TEST(Mnemonics, AreUniqueWhileLettersLast) {
         {{"Color Mode:", "Correction:", "Other"}, {"&Color Mode:", "C&orrection:", "O&ther"}},
         {{"Grey scale", "Gamma", "G"}, {"Grey &scale", "G&amma", "&G"}}, // the first makes room
         {{"Print", "R&D"}, {"P&rint", "R&&&D"}},                         // "P" is a plain button's
-        {{"a", "a", "...", ""}, {"&a", "&a", "(&B)...", ""}},            // letters have run out
+        {{"a", "a", "...", ""}, {"&a", "a(&C)", "(&B)...", ""}}, // letters have run out
         {{"明るさ:", "アール", "A"}, {"明るさ(&C):", "アール(&B)", "&A"}},
         {{"Ärger", "Яркость"}, {"Ä&rger", "&Яркость"}}};
     // clang-format on
