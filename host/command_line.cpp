@@ -2,6 +2,8 @@
 
 #include "host/host_error.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <iterator>
 
@@ -72,6 +74,8 @@ void takeOption(CommandLine &line, const OptionRow &row, const QString &name,
 void checkTogether(const CommandLine &line) {
     if (!line.ppd.isNull() && !line.queue.isNull())
         wrong(QStringLiteral("--queue"), "can't be given together with --ppd");
+    if (!line.language.isNull() && QLocale(line.language).language() == QLocale::C)
+        wrong(QStringLiteral("--language ") + line.language, "is no language code");
     switch (line.command) {
     case Command::Print:
         if (line.ppd.isNull() && line.queue.isNull())

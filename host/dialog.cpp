@@ -8,6 +8,7 @@
 #include "host/print.h"
 #include "host/ps_job.h"
 #include "platform/views/alert.h"
+#include "platform/views/form_loader.h"
 #include "platform/views/modal_window.h"
 
 #include <QDialogButtonBox>
@@ -37,20 +38,23 @@ PrintDialog::PrintDialog(PanelStage &stage, bool isQueue, const QString &documen
     layout->addWidget(plainLabel(tr("Printer: %1").arg(stage.source().printer.id)));
     if (!document.isNull())
         layout->addWidget(plainLabel(tr("Document: %1").arg(QFileInfo(document).fileName())));
-    addPanel(layout);
+    QWidget *panel = addPanel(layout);
+    m_hasPanel = panel != nullptr;
     addButtons(layout);
+    if (panel) // its letters come after those of the dialog's own buttons
+        views::assignMnemonics(panel);
 }
 
 PrintDialog::~PrintDialog() {
     m_stage.close();
 }
 
-void PrintDialog::addPanel(QBoxLayout *layout) {
+QWidget *PrintDialog::addPanel(QBoxLayout *layout) {
     PanelSession &session = m_stage.session();
     QWidget *view = session.hasPanel() ? session.load() : nullptr;
     if (!view) {
         layout->addWidget(plainLabel(tr("This printer has no panel for image options.")));
-        return;
+        return nullptr;
     }
     QLabel *heading = plainLabel(session.name());
     QFont font = heading->font();
@@ -59,7 +63,7 @@ void PrintDialog::addPanel(QBoxLayout *layout) {
     layout->addWidget(heading);
     placeView(layout, view);
     session.show();
-    m_hasPanel = true;
+    return view;
 }
 
 void PrintDialog::addButtons(QBoxLayout *layout) {
@@ -67,7 +71,7 @@ void PrintDialog::addButtons(QBoxLayout *layout) {
     QPushButton *print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
     QPushButton *cancel = buttons->addButton(QDialogButtonBox::Cancel);
     QPushButton *help = buttons->addButton(QDialogButtonBox::Help);
-    QPushButton *summary = buttons->addButton(tr("&Summary..."), QDialogButtonBox::ActionRole);
+    QPushButton *summary = buttons->addButton(tr("&Summary…"), QDialogButtonBox::ActionRole);
     print->setDefault(true);
     for (QPushButton *button : {cancel, help, summary})
         button->setAutoDefault(false);

@@ -20,7 +20,8 @@ public:
     void reject() override;
 
 private:
-    void addPanel(QBoxLayout *layout);
+    /// @return the panel's view, or null
+    QWidget *addPanel(QBoxLayout *layout);
     void addButtons(QBoxLayout *layout);
     void showSummary();
     void print();

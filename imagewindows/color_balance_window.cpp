@@ -7,19 +7,10 @@
 #include "controls/text_entry_family.h"
 #include "imagewindows/image_grads_view.h"
 #include "imagewindows/window_buttons.h"
-#include "platform/bundle.h"
-#include "platform/log.h"
 #include "ppd/ppd_keys.h"
 
-namespace {
-
-const QString kLayout = QStringLiteral("QZImageOptions_ColorBalance");
-
-} // namespace
-
 ColorBalanceWndKRV::~ColorBalanceWndKRV() {
-    PopupWinInPanelKRVImageOptions::terminate();
-    delete m_form;
+    terminate(); // while the fields still stand that it clears
 }
 
 std::vector<views::Outlet> ColorBalanceWndKRV::outlets() {
@@ -50,21 +41,8 @@ std::vector<views::Outlet> ColorBalanceWndKRV::outlets() {
 }
 
 ModalWindow *ColorBalanceWndKRV::loadWindow(const Bundle *bundle) {
-    if (m_form || !bundle)
-        return m_form;
-    QString error = QStringLiteral("the bundle has no such layout");
-    const QString path = bundle->resourcePath(kLayout, QStringLiteral("nib"));
-    QWidget *form = path.isNull() ? nullptr
-                                  : views::loadForm(path, outlets(), &error,
-                                                    {views::viewClass<ImageGradsViewKRV>()});
-    m_form = qobject_cast<ModalWindow *>(form);
-    if (form && !m_form) {
-        error = QStringLiteral("its root is no ModalWindow");
-        delete form;
-    }
-    if (!m_form)
-        qCWarning(panelLog, "%s: %s", qUtf8Printable(kLayout), qUtf8Printable(error));
-    return m_form;
+    return loadForm(bundle, QStringLiteral("QZImageOptions_ColorBalance"), outlets(),
+                    {views::viewClass<ImageGradsViewKRV>()});
 }
 
 void ColorBalanceWndKRV::addText(StaticTextEditControlKRVImageOptions *&field, TextView *view,
@@ -156,8 +134,6 @@ void ColorBalanceWndKRV::ColorBalanceWnd(QWidget *window, const QString &winTitl
             else
                 addStepper<GLittleArrayControlKRV>(color, range);
     addPreview();
-    // The form keeps what former controls had hidden and disabled; the counts begin at 0.
-    ResetCurrentControlStatus();
 }
 
 int32_t ColorBalanceWndKRV::InitializeUserPane(const Bundle *bundle, ppd_file_t *ppd) {

@@ -5,8 +5,6 @@
 #include "imagewindows/popup_window.h"
 #include "platform/views/button_view.h"
 #include "platform/views/check_box_view.h"
-#include "platform/views/form_loader.h"
-#include "platform/views/modal_window.h"
 #include "platform/views/popup_view.h"
 #include "platform/views/stepper_view.h"
 #include "platform/views/text_field_view.h"
@@ -33,7 +31,7 @@ public:
     /// Ends a run, then gives up the controls and the form.
     ~ColorBalanceWndKRV() override;
 
-    /// Loads the form; the one that was loaded as long as it lives.
+    /// Loads the form anew.
     /// @return the form, which the window keeps; null, with a line in the log, without one
     ModalWindow *loadWindow(const Bundle *bundle);
     /// Makes the controls on the views of the form.
@@ -72,7 +70,6 @@ private:
     void addStepper(int color, int range);
     void addPreview();
 
-    QPointer<ModalWindow> m_form;
     QPointer<TextView> gWndTargetColorSTxtCtrl;
     QPointer<TextView> gWndLowDCBStxtCtrl;
     QPointer<TextView> gWndLowDCBSStxtCtrl;

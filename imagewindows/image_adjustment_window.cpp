@@ -8,11 +8,8 @@
 #include "imagewindows/rgb_correction_list.h"
 #include "imagewindows/window_buttons.h"
 #include "platform/bundle.h"
-#include "platform/log.h"
 #include "platform/views/button_view.h"
 #include "platform/views/check_box_view.h"
-#include "platform/views/form_loader.h"
-#include "platform/views/modal_window.h"
 #include "platform/views/popup_view.h"
 #include "platform/views/text_view.h"
 #include "ppd/constraint_cache.h"
@@ -23,27 +20,11 @@
 #include <algorithm>
 
 ImageAdjustmentWindow::~ImageAdjustmentWindow() {
-    terminate(); // the controls let go of their views first
-    delete m_form;
+    terminate(); // while the fields still stand that it clears
 }
 
 ModalWindow *ImageAdjustmentWindow::loadWindow(const Bundle *bundle) {
-    if (m_form)
-        return m_form;
-    QString error = QStringLiteral("the bundle has no such form");
-    if (const QString path =
-            bundle ? bundle->resourcePath(formName(), QStringLiteral("nib")) : QString();
-        !path.isNull()) {
-        QWidget *root = views::loadForm(path, {}, &error);
-        m_form = qobject_cast<ModalWindow *>(root);
-        if (root && !m_form) {
-            error = QStringLiteral("the form is no window");
-            delete root;
-        }
-    }
-    if (!m_form)
-        qCWarning(panelLog, "%s: %s", qUtf8Printable(formName()), qUtf8Printable(error));
-    return m_form;
+    return loadForm(bundle, formName(), {});
 }
 
 template <class View>

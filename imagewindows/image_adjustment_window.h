@@ -12,7 +12,6 @@ class GImageAdjCancelButtonKRV;
 class GOKButtonIAKRV;
 class GPPDListCtrlKRV;
 class GRestoreDefaultButtonKRV;
-class ModalWindow;
 class PPDStaticTextCtrlKRVImageOptions;
 class PopupControlKRVImageOptions;
 class RGBCorrectionListCtrlIAKRV;
@@ -28,8 +27,7 @@ class ImageAdjustmentWindow : public PopupWinInPanelKRVImageOptions {
 public:
     ~ImageAdjustmentWindow() override;
 
-    /// The form, loaded from the bundle's resources at the first call and once more when it has
-    /// been destroyed from outside. A failure is logged.
+    /// Loads the form anew. A failure is logged.
     /// @return owned by this object; null if the form can't be loaded
     ModalWindow *loadWindow(const Bundle *bundle);
     /// The record in which the main panel keeps the product type; without one the window has no
@@ -90,7 +88,6 @@ private:
     void addPluginTypeList();
     void addHelpButton();
 
-    QPointer<ModalWindow> m_form;
     PopupIniData *m_plugintypeList = nullptr;
 
     PPDStaticTextCtrlKRVImageOptions *rgbcolorcorrectionIASTextCtrl = nullptr;

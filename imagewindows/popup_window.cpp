@@ -1,16 +1,39 @@
 #include "imagewindows/popup_window.h"
 
 #include "platform/bundle.h"
-#include "platform/views/modal_window.h"
+#include "platform/log.h"
 #include "platform/views/text_field_view.h"
 #include "services/bundle_identity.h"
 
 PopupWinInPanelKRVImageOptions::~PopupWinInPanelKRVImageOptions() {
     endRun();
+    BasePrintPanelKRVImageOptions::terminate(); // the controls let go of their views first
+    delete m_form;
+}
+
+ModalWindow *
+PopupWinInPanelKRVImageOptions::loadForm(const Bundle *bundle, const QString &name,
+                                         const std::vector<views::Outlet> &outlets,
+                                         const std::vector<views::ViewClass> &classes) {
+    terminate();
+    delete m_form;
+    QString error = QStringLiteral("the bundle has no such form");
+    const QString path = bundle ? bundle->resourcePath(name, QStringLiteral("nib")) : QString();
+    QWidget *root = path.isNull() ? nullptr : views::loadForm(path, outlets, &error, classes);
+    m_form = qobject_cast<ModalWindow *>(root);
+    if (root && !m_form) {
+        error = QStringLiteral("the form is no window");
+        delete root;
+    }
+    if (!m_form)
+        qCWarning(panelLog, "%s: %s", qUtf8Printable(name), qUtf8Printable(error));
+    return m_form;
 }
 
 void PopupWinInPanelKRVImageOptions::PopupWinInPanel(QWidget *window, const QString &winTitle) {
     CreatePanel(window);
+    if (window != m_form)
+        delete m_form;
     winTitleTextRef = winTitle;
     isActived = false;
 }

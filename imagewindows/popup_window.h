@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/views/form_loader.h"
+#include "platform/views/modal_window.h"
 #include "plugin/base/base_print_panel.h"
 
 /// A modal child window of a panel, and a panel itself: its controls have values, sweeps and
@@ -53,6 +55,15 @@ public:
     void dropPendingEdits();
 
 protected:
+    /// Loads the form in which the window stands. A former one is given up, since its views are as
+    /// the former controls left them.
+    /// @param name     the form's file name, without its ending
+    /// @param outlets  connected to the form's views
+    /// @param classes  view classes of the form beyond the platform's
+    /// @return the form, which this object keeps; null, with a line in the log, without one
+    ModalWindow *loadForm(const Bundle *bundle, const QString &name,
+                          const std::vector<views::Outlet> &outlets,
+                          const std::vector<views::ViewClass> &classes = {});
     /// Runs the window over the window in which the parent panel stands at this moment. Nothing of
     /// the object may be used behind the call.
     void runModalForWindow();
@@ -65,5 +76,7 @@ protected:
     bool isRunning() const;
 
 private:
-    void endRun();
+    void endRun() override;
+
+    QPointer<ModalWindow> m_form;
 };

@@ -34,8 +34,6 @@ extern const CtrlConstrainInfo rgbcolorcorrectionConstrainInfo;
 extern const CtrlConstrainInfo basicsettingRdioCnstrnInfoPtr;
 extern const CtrlConstrainInfo advancedsettingRdioCnstrnInfoPtr;
 
-inline constexpr float UnitsPerInch = 72.0F;
-
 /// One panel's own copies of the records that its controls write.
 struct MainPanelRecords {
     PopupIniData plugintypeList = plugintypeListIniData; ///< shared with the panel's windows

@@ -74,8 +74,8 @@ TOPICS = {
         "Basic Settings", "You say what the document shows, and the printer chooses the color correction.",
         "Grundeinstellungen", "Sie geben an, was das Dokument zeigt, und der Drucker wählt die Farbkorrektur."),
     "advanced-settings": (
-        "Advanced Settings", "You choose the color correction yourself. The lists for it take the place of the image type.",
-        "Erweiterte Einstellungen", "Sie wählen die Farbkorrektur selbst. Die Listen dafür stehen dann anstelle der Bildart."),
+        "Advanced Settings", "You choose the color correction yourself. This takes the place of the image type.",
+        "Erweiterte Einstellungen", "Sie wählen die Farbkorrektur selbst. Das tritt an die Stelle der Bildart."),
     "image-type": (
         "Image Type", "What the document shows for the most part.",
         "Bildart (Image Type)", "Was das Dokument vor allem zeigt."),
@@ -113,8 +113,8 @@ TOPICS = {
         "Target Color", "The ink whose three values are shown. The values of the other inks stay as they are. In black and white only black can be chosen.",
         "Zielfarbe", "Die Druckfarbe, deren drei Werte zu sehen sind. Die Werte der anderen Farben bleiben, wie sie sind. In Schwarzweiß lässt sich nur Schwarz wählen."),
     "low-density": (
-        "Low Density", "How strong the ink is in light tones, a whole number from −3 to 3. Type it or use the arrows; 0 is the printer’s own value.",
-        "Geringe Dichte", "Wie kräftig die Farbe in hellen Tönen ist, eine ganze Zahl von −3 bis 3. Geben Sie sie ein, oder benutzen Sie die Pfeile; 0 ist der Wert des Druckers."),
+        "Low Density", "How strong the ink is in light tones, a whole number from -3 to 3. Type it or use the arrows; 0 is the printer’s own value.",
+        "Geringe Dichte", "Wie kräftig die Farbe in hellen Tönen ist, eine ganze Zahl von -3 bis 3. Geben Sie sie ein, oder benutzen Sie die Pfeile; 0 ist der Wert des Druckers."),
     "middle-density": (
         "Middle Density", "The same for middle tones.",
         "Mittlere Dichte", "Dasselbe für mittlere Töne."),
@@ -143,6 +143,18 @@ INSTEAD = {
     ("MVO220", "image-settings"): (
         "Has no function on this printer: the settings of the window keep their defaults.",
         "Ohne Funktion bei diesem Drucker: Die Einstellungen des Fensters behalten ihre Standardwerte."),
+    ("MVO110", "screen"): (
+        "The pattern of dots from which tones are built. A change of color mode, output mode or image type sets it back to its default.",
+        "Das Punktmuster, aus dem Farbtöne entstehen. Ändern Sie Farbmodus, Ausgabequalität oder Bildart, gilt hier wieder der Standardwert."),
+    ("SV500", "screen"): (
+        "The pattern of dots from which tones are built. A change of color mode, output mode or image type sets it back to its default.",
+        "Das Punktmuster, aus dem Farbtöne entstehen. Ändern Sie Farbmodus, Ausgabequalität oder Bildart, gilt hier wieder der Standardwert."),
+    ("MVO110", "ImageAdj"): (
+        "In this window you find the gamma correction for photos and office documents.",
+        "In diesem Fenster finden Sie die Gammakorrektur für Fotos und Bürodokumente."),
+    ("MVO420", "color-mode"): (
+        "Prints in color, in black and white, or in two colors. In black and white the color settings have no effect and are dimmed.",
+        "Druckt in Farbe, in Schwarzweiß oder zweifarbig. In Schwarzweiß haben die Farbeinstellungen keine Wirkung und sind abgeblendet."),
     ("MVO220", "ImageAdj"): (
         "The MVO-220 uses the defaults of these settings, and its panel doesn’t open the window.",
         "Der MVO-220 verwendet die Standardwerte dieser Einstellungen; das Fenster lässt sich bei ihm nicht öffnen."),

@@ -12,7 +12,7 @@ from xml.sax.saxutils import escape
 LANGUAGES = {"en": "en_US", "de": "de_DE", "fr": "fr_FR", "ja": "ja_JP", "zh_CN": "zh_CN"}
 
 # Key: a text for each language, in the order of LANGUAGES. U+00A0 stands before a French colon and
-# a German ellipsis, U+2212 is the minus sign.
+# a German ellipsis.
 ROWS = {
     # Panel
     "Graphics Title": ("Image Options", "Bildoptionen", "Options d’image", "画像オプション", "图像选项"),
@@ -46,8 +46,8 @@ ROWS = {
     "Low Density Scope Statics Text": ("Low Density:", "Geringe Dichte:", "Densité faible\u00a0:", "低濃度：", "低密度："),
     "Mid Density Scope Statics Text": ("Middle Density:", "Mittlere Dichte:", "Densité moyenne\u00a0:", "中濃度：", "中密度："),
     "High Density Scope Statics Text": ("High Density:", "Hohe Dichte:", "Densité élevée\u00a0:", "高濃度：", "高密度："),
-    "Density Scope Statics Text": ("(−3 to 3)", "(−3 bis 3)", "(−3 à 3)", "（−3〜3）", "（−3 至 3）"),
-    "Message??": ("Enter a whole number from −3 to 3.", "Geben Sie eine ganze Zahl von −3 bis 3 ein.", "Saisissez un nombre entier de −3 à 3.", "−3〜3の整数を入力してください。", "请输入 −3 至 3 之间的整数。"),
+    "Density Scope Statics Text": ("(-3 to 3)", "(-3 bis 3)", "(-3 à 3)", "（-3〜3）", "（-3 至 3）"),
+    "Message??": ("Enter a whole number from -3 to 3.", "Geben Sie eine ganze Zahl von -3 bis 3 ein.", "Saisissez un nombre entier de -3 à 3.", "-3〜3の整数を入力してください。", "请输入 -3 至 3 之间的整数。"),
     "Alert OK Btn": ("OK", "OK", "OK", "OK", "确定"),
 
     # Image settings

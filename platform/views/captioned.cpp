@@ -37,9 +37,6 @@ QString Captioned::markedCaption() const {
     if (place >= 0)
         return escapeMnemonics(m_caption.left(place)) + u'&' +
                escapeMnemonics(m_caption.mid(place));
-    for (const QChar character : m_caption)
-        if (isMnemonicLetter(character))
-            return escapeMnemonics(m_caption);
     place = m_caption.size();
     const QString tail = QStringLiteral(":\uFF1A\u2026."); // the letter stands before an ellipsis
     while (place > 0 && tail.contains(m_caption[place - 1]))

@@ -27,8 +27,7 @@ public:
     void setCaption(const QString &caption);
     QChar mnemonic() const { return m_mnemonic; }
     /// Marks the first place of a character, in either case, as the mnemonic; a null character
-    /// takes it away. A title without any letter that has a key shows the character behind it, in
-    /// parentheses; another title that lacks the character shows no mnemonic.
+    /// takes it away. A title that lacks the character shows it behind itself, in parentheses.
     void setMnemonic(QChar character);
     /// Takes over what Qt shows, text and mnemonic, after a form has set it.
     virtual void adoptShownText() = 0;

@@ -51,9 +51,9 @@ PDE_PLATFORM_EXPORT QWidget *loadForm(const QString &path, const std::vector<Out
 
 /// Gives each label with a buddy and each titled button below a view a mnemonic, in tab order, no
 /// letter twice as long as letters last. Called when the titles stand, and again when they change.
-/// Latin letters and digits come first, and among these the ones that begin a word. A title without
-/// any letter that has a key gets a Latin one behind it, which is no part of the title. Letters
-/// that other views of the window use are left to them. Each window has letters of its own.
+/// Latin letters and digits come first, and among these the ones that begin a word. A title that
+/// has no letter with a key, or none left, gets a Latin one behind it, which is no part of it.
+/// Letters that other views of the window use are left to them. Each window has letters of its own.
 PDE_PLATFORM_EXPORT void assignMnemonics(QWidget *root);
 
 } // namespace views

@@ -125,9 +125,15 @@ void assignInWindow(QWidget *window, const QWidget *root) {
             holders[owner.value()].view->setMnemonic(owner.key());
             placed[owner.value()] = true;
         }
-    for (int i = 0; i < holders.size(); ++i) // letters have run out: Qt goes round those that share
-        if (!placed[i] && !holders[i].candidates.isEmpty())
-            holders[i].view->setMnemonic(holders[i].candidates[0]);
+    for (int i = 0; i < holders.size(); ++i) {
+        if (placed[i] || holders[i].candidates.isEmpty())
+            continue;
+        QChar letter = u'A'; // the title's own letters have run out
+        while (letter < u'Z' && owners.contains(letter))
+            letter = QChar(letter.unicode() + 1);
+        owners.insert(letter, i);
+        holders[i].view->setMnemonic(letter);
+    }
 }
 
 } // namespace

@@ -22,15 +22,21 @@ void BasePrintPanelKRVImageOptions::leaveParent() {
 
 void BasePrintPanelKRVImageOptions::releaseWindows() {
     if (fWindowGroupArray)
-        for (BasePrintPanelKRVImageOptions *window : *fWindowGroupArray)
+        for (BasePrintPanelKRVImageOptions *window : *fWindowGroupArray) {
+            window->endRun();
             window->pParentPane = nullptr;
+        }
     fWindowGroupArray.reset();
 }
 
-void BasePrintPanelKRVImageOptions::terminate() {
+void BasePrintPanelKRVImageOptions::clearFields() {
     for (const auto &clearField : m_fields)
         clearField();
     m_fields.clear();
+}
+
+void BasePrintPanelKRVImageOptions::terminate() {
+    clearFields();
     fCtrlGroupArray.reset();
     fCtrlInstallableGroupArray.reset();
     releaseWindows();
@@ -43,7 +49,7 @@ bool BasePrintPanelKRVImageOptions::shouldHide() {
 }
 
 void BasePrintPanelKRVImageOptions::CreatePanel(QWidget *window) {
-    m_fields.clear();
+    clearFields();
     fCtrlGroupArray.emplace();
     fCtrlInstallableGroupArray.emplace();
     releaseWindows();

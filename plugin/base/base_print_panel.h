@@ -195,9 +195,12 @@ protected:
 private:
     /// Each clears one pointer of the panel to a control that the registry owns.
     std::vector<std::function<void()>> m_fields;
+    void clearFields();
     /// The parent, if any, forgets this window, and this window its parent.
     void leaveParent();
-    /// The windows are forgotten, and forget this parent.
+    /// Ends the modal run of a window, which a panel hasn't.
+    virtual void endRun() {}
+    /// The windows are forgotten, and forget this parent; a run that is on ends.
     void releaseWindows();
     bool takePrinterString(PMPrintSession session);
     int32_t preferenceResult(bool last, int32_t windowReply) const;

@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>Density Scope Statics Text</source>
-        <translation>（−3〜3）</translation>
+        <translation>（-3〜3）</translation>
     </message>
     <message>
         <source>Message??</source>
-        <translation>−3〜3の整数を入力してください。</translation>
+        <translation>-3〜3の整数を入力してください。</translation>
     </message>
     <message>
         <source>Alert OK Btn</source>

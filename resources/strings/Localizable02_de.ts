@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>Density Scope Statics Text</source>
-        <translation>(−3 bis 3)</translation>
+        <translation>(-3 bis 3)</translation>
     </message>
     <message>
         <source>Message??</source>
-        <translation>Geben Sie eine ganze Zahl von −3 bis 3 ein.</translation>
+        <translation>Geben Sie eine ganze Zahl von -3 bis 3 ein.</translation>
     </message>
     <message>
         <source>Alert OK Btn</source>

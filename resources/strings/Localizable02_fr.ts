@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>Density Scope Statics Text</source>
-        <translation>(−3 à 3)</translation>
+        <translation>(-3 à 3)</translation>
     </message>
     <message>
         <source>Message??</source>
-        <translation>Saisissez un nombre entier de −3 à 3.</translation>
+        <translation>Saisissez un nombre entier de -3 à 3.</translation>
     </message>
     <message>
         <source>Alert OK Btn</source>

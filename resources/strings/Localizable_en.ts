@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>Density Scope Statics Text</source>
-        <translation>(−3 to 3)</translation>
+        <translation>(-3 to 3)</translation>
     </message>
     <message>
         <source>Message??</source>
-        <translation>Enter a whole number from −3 to 3.</translation>
+        <translation>Enter a whole number from -3 to 3.</translation>
     </message>
     <message>
         <source>Alert OK Btn</source>

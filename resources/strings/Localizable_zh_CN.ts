@@ -113,11 +113,11 @@
     </message>
     <message>
         <source>Density Scope Statics Text</source>
-        <translation>（−3 至 3）</translation>
+        <translation>（-3 至 3）</translation>
     </message>
     <message>
         <source>Message??</source>
-        <translation>请输入 −3 至 3 之间的整数。</translation>
+        <translation>请输入 -3 至 3 之间的整数。</translation>
     </message>
     <message>
         <source>Alert OK Btn</source>
