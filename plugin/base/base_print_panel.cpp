@@ -15,8 +15,9 @@ BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() {
 }
 
 void BasePrintPanelKRVImageOptions::leaveParent() {
-    if (pParentPane && pParentPane->fWindowGroupArray)
-        std::erase(*pParentPane->fWindowGroupArray, this);
+    if (m_registeredWith && m_registeredWith->fWindowGroupArray)
+        std::erase(*m_registeredWith->fWindowGroupArray, this);
+    m_registeredWith = nullptr;
     pParentPane = nullptr;
 }
 
@@ -24,6 +25,7 @@ void BasePrintPanelKRVImageOptions::releaseWindows() {
     if (fWindowGroupArray)
         for (BasePrintPanelKRVImageOptions *window : *fWindowGroupArray) {
             window->endRun();
+            window->m_registeredWith = nullptr;
             window->pParentPane = nullptr;
         }
     fWindowGroupArray.reset();
@@ -107,6 +109,7 @@ int32_t BasePrintPanelKRVImageOptions::RunTimeAddNewWindow(BasePrintPanelKRVImag
         return 0;
     window->leaveParent();
     window->SetParenetPane(this);
+    window->m_registeredWith = this;
     fWindowGroupArray->push_back(window);
     return _parentPane_num_item++;
 }

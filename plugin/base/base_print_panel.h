@@ -196,7 +196,9 @@ private:
     /// Each clears one pointer of the panel to a control that the registry owns.
     std::vector<std::function<void()>> m_fields;
     void clearFields();
-    /// The parent, if any, forgets this window, and this window its parent.
+    /// Whose registry holds this window. The parent may be another, which SetParenetPane named.
+    BasePrintPanelKRVImageOptions *m_registeredWith = nullptr;
+    /// The registry, if any, forgets this window, and this window its parent.
     void leaveParent();
     /// Ends the modal run of a window, which a panel hasn't.
     virtual void endRun() {}

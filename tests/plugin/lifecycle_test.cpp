@@ -1,6 +1,7 @@
 #include "plugin_fixture.h"
 
 #include "controls/button_family.h"
+#include "imagewindows/popup_window.h"
 #include "platform/kernel_release.h"
 #include "platform/preferences.h"
 
@@ -182,6 +183,27 @@ TEST_F(LifecycleTest, NothingOfAReplacedPpdLives) {
     EXPECT_TRUE(views::isEnabled(title));
     EXPECT_NE(colour(), dimmed);
     EXPECT_EQ(types->indexOfSelectedItem(), 0);
+}
+
+TEST_F(LifecycleTest, WindowsOfAReplacedPpdShowWhatItHas) {
+    // The 110 and the 420 have the plain window, the 530 another; the 110 lacks most of its lists.
+    const auto panel = openedPanel();
+    std::vector<PpdPtr> ppds;
+    for (const char *queue : {"110", "530", "420", "110", "420"}) {
+        const bool rebuilds = ppds.size() == 4; // the host has destroyed the view
+        if (rebuilds)
+            delete panel->panelView();
+        ppds.push_back(openSample(QStringLiteral("velmora-mvo-%1.ppd").arg(queue)));
+        host->ppd = ppds.back().get();
+        panel->restoreValuesAndReturnError(nullptr);
+        ASSERT_TRUE(panel->Getxppd());
+        EXPECT_EQ(views::isHidden(list(*panel, 502)), !qstrcmp(queue, "110")) << queue;
+        EXPECT_EQ(panel->GetPanelControl(&ControlBlackOverPrintCheckBoxTag) != nullptr,
+                  !qstrcmp(queue, "530"));
+        EXPECT_EQ(panel->getImageAdjustmentWnd()->GetParentWnd() != nullptr,
+                  qstrcmp(queue, "530") != 0);
+    }
+    EXPECT_EQ(panel->created, 2);
 }
 
 TEST_F(LifecycleTest, NameWithoutItsStringsTable) {
