@@ -1,9 +1,9 @@
 #pragma once
 
 #include "support/ppd_text.h"
+#include "support/run_program.h"
 
-#include <QByteArray>
-#include <QStringList>
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -19,11 +19,7 @@ inline void PrintTo(const QByteArray &text, std::ostream *out) {
 ///
 /// "a.ppd" has, in group 0, the options 0 QZColorMode (None, X, Y) and 1 QZOutputMode (None, P, Q).
 struct ToolTest : testing::Test {
-    /// What one run left.
-    struct Run {
-        int exitCode = -1; ///< -1 when it crashed or didn't end in time
-        QByteArray out, err;
-    };
+    using Run = ProgramRun;
 
     static inline const QByteArray kStamp = "*% Last Edit Date: today";
     static inline const QByteArray kPpd =
@@ -43,10 +39,16 @@ struct ToolTest : testing::Test {
                                               "QZOutputMode:P@0@0@1@QZOutputMode:Q@0@0@1@\n";
 
     ToolTest() { write("a.ppd", kPpd); }
-    Run run(const QStringList &arguments) const;
-    void write(const QString &name, const QByteArray &content) const;
-    QByteArray read(const QString &name) const;
-    QStringList files() const;
+    Run run(const QStringList &arguments) const {
+        return runProgram(QStringLiteral(CDF_TOOL), arguments, folder.path());
+    }
+    void write(const QString &name, const QByteArray &content) const {
+        EXPECT_FALSE(writeFile(folder.path(), name, content).isNull());
+    }
+    QByteArray read(const QString &name) const { return readFile(folder.filePath(name)); }
+    QStringList files() const {
+        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::System | QDir::Hidden);
+    }
 
     QTemporaryDir folder;
 };

@@ -1,22 +1,22 @@
-#include "run_host.h"
+#include "support/run_program.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 
-HostRun runHost(const QStringList &arguments, const QString &folder, const QByteArray &input,
-                const QStringList &environment) {
+ProgramRun runProgram(const QString &program, const QStringList &arguments, const QString &folder,
+                      const QByteArray &input, const QStringList &environment) {
     QProcess process;
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     for (const QString &variable : environment)
         variables.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
     process.setProcessEnvironment(variables);
     process.setWorkingDirectory(folder);
-    process.start(QStringLiteral(HOST_PROGRAM), arguments);
+    process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
-    HostRun run;
+    ProgramRun run;
     if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
         run.exitCode = process.exitCode();
     else
