@@ -28,7 +28,7 @@ public:
     /// @param helpName  the page's base name, such as "Graphics.htm"; kept if none is kept yet
     void CreateControlWithHelpName(ButtonView *view, const QString &helpName);
     /// Turns the base name into the page of the product that the PPD's attribute names. The title
-    /// stays as the form has it. @return true
+    /// is the table's "Help Button Text"; without one the form's stays. @return true
     bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
     /// @return true
     bool UIEventHandler() override;

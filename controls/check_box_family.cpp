@@ -95,6 +95,7 @@ bool PPDCheckBoxKRVImageOptions::InitializeCtrl(const Bundle *bundle, ppd_file_t
     } else { // no value of a former PPD may answer for an option that this one lacks
         ctrlDataBlkPtr.reset();
         ctrlUIDataBlkPtr.reset();
+        showValue(0);
     }
     bindOption(ppd, m_ppd.kPPDMainKey);
     return true;

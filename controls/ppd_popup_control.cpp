@@ -207,7 +207,7 @@ bool GPPDListCtrlKRV::InitializeMenu(const Bundle *bundle, ppd_file_t *ppd) {
         if (popup())
             popup()->removeAllItems();
     }
-    CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, menuRowCount() > 0);
+    CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, m_ppd.rowCount() > 0);
     return true;
 }
 

@@ -88,8 +88,12 @@ bool GPPDSliderBarControlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *p
     const bool hadTitle = !m_ppd.titleTextRef.isNull();
     m_ppd.takeTitle(ppd);
     if (m_ppd.rowCount() == 0) {
-        if (hadTitle) // the title of a former PPD
+        if (hadTitle) // what a former PPD has left
             m_ppd.clearTitle(ctrlParentPanelPtr);
+        if (SliderView *view = slider()) {
+            view->setAllowsTickMarkValuesOnly(false);
+            view->setNumberOfTickMarks(0);
+        }
         return CPPDChecker::Instance()->AddCheck(m_ppd.kPPDMainKey, false);
     }
     SetTitleWithCFStringEx(m_ppd.titleTextRef);

@@ -34,7 +34,7 @@ void Outputs::add(const QString &path, const QByteArray &content) {
     auto file = std::make_unique<QSaveFile>(path);
     if (!file->open(QIODevice::WriteOnly) || file->write(content) != content.size() ||
         !file->flush())
-        throw HostError(path, QStringLiteral("can't be written: ") + file->errorString());
+        throw HostError(path, QStringLiteral("can't be written: ") + reasonOf(*file));
     m_files.push_back(std::move(file));
 }
 

@@ -5,8 +5,6 @@
 #include "ppd/ppd_query.h"
 #include "ppd/resource_names.h"
 
-#include <array>
-
 namespace {
 
 /// The mode's keyword begins behind a prefix of the attribute's value.
@@ -20,10 +18,7 @@ bool GOutputModeListCtrlKRV::InitializeCtrl(const Bundle *bundle, ppd_file_t *pp
     IsMailBoxKeyExist = false;
     if (!GPPDListCtrlKRV::InitializeCtrl(bundle, ppd))
         return false;
-    std::array<char, 100> keyword{};
-    if (ppd)
-        FixPPDKeywordAccordingToType(ppd, kQZMailboxSetting, keyword.data());
-    const ppd_attr_t *attribute = ppd ? ppdFindAttr_ALT(ppd, keyword.data(), nullptr) : nullptr;
+    const ppd_attr_t *attribute = findVendorAttribute(ppd, kQZMailboxSetting);
     if (!attribute)
         return true;
     const QString mode = cutToBytes(QString::fromUtf8(attribute->value).mid(kMailboxPrefixLength),

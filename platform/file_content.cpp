@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <cerrno>
 #include <cstring>
@@ -37,6 +38,27 @@ std::optional<QByteArray> readRegularFile(const QString &path, qint64 limit, QSt
     if (file.error() != QFileDevice::NoError)
         return refuse(file.errorString());
     return content;
+}
+
+QString reasonOf(const QFileDevice &file) {
+    return file.error() == QFileDevice::NoError ? QString::fromLocal8Bit(std::strerror(ENOSPC))
+                                                : file.errorString();
+}
+
+bool commitWhole(QSaveFile &file) {
+    if (file.flush())
+        return file.commit();
+    file.cancelWriting();
+    return false;
+}
+
+bool writeWholeFile(const QString &path, const QByteArray &content, QString *reason) {
+    QSaveFile file(path);
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
+                         commitWhole(file);
+    if (!written && reason)
+        *reason = reasonOf(file);
+    return written;
 }
 
 bool isSameFile(const QString &first, const QString &second) {

@@ -1,11 +1,11 @@
 #include "platform/help_book_list.h"
 
+#include "platform/file_content.h"
 #include "platform/help_viewer.h"
 #include "platform/log.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <plist/plist.h>
 
@@ -49,11 +49,10 @@ void writeList(plist_t root) {
 
     const QString path = helpViewerPreferencePath();
     QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit();
+    QString reason;
+    const bool written = writeWholeFile(path, data, &reason);
     if (!written)
-        qCWarning(panelLog, "%s: %s", qUtf8Printable(path), qUtf8Printable(file.errorString()));
+        qCWarning(panelLog, "%s: %s", qUtf8Printable(path), qUtf8Printable(reason));
     unsavedList = written ? QByteArray() : data;
 }
 

@@ -34,6 +34,13 @@ bool takeField(const std::string &line, size_t &position, std::string_view &fiel
 
 /// The field is followed by a delimiter or is empty, so that the number ends within the line.
 uint16_t indexOf(std::string_view field) {
+    constexpr size_t kPlainDigits = 5;
+    uint32_t number = 0;
+    size_t digits = 0;
+    while (digits < field.size() && field[digits] >= '0' && field[digits] <= '9')
+        number = number * 10 + static_cast<uint32_t>(field[digits++] - '0');
+    if (digits == field.size() && digits <= kPlainDigits)
+        return static_cast<uint16_t>(number);
     return field.empty() ? 0 : static_cast<uint16_t>(std::strtol(field.data(), nullptr, 10));
 }
 

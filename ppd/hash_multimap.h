@@ -104,14 +104,18 @@ private:
     template <typename T>
     struct Distinct {
         std::vector<T> items;
+        size_t sorted = 0; ///< so many items at the begin are in order, each once
         size_t limit = 256;
 
         void add(const T &item) {
             if (!items.empty() && items.back() == item)
                 return;
+            if (std::binary_search(items.begin(), items.begin() + sorted, item))
+                return;
             if (items.size() >= limit) {
                 std::ranges::sort(items);
                 items.erase(std::unique(items.begin(), items.end()), items.end());
+                sorted = items.size();
                 limit = std::max(limit, 2 * items.size());
             }
             items.push_back(item);

@@ -1,11 +1,11 @@
 #pragma once
 
-/// The keywords of the maker's PPD files, each spelled once. The panels of one driver share the
-/// list; this panel asks only for some of them.
+/// The keywords of the maker's PPD files. The panels of one driver share the list; this panel asks
+/// only for some of them.
 ///
-/// A name begins with `KPPD` or `kPPD` for an option and with `kQZ` for an attribute;
-/// "QZX...Settings" states a feature class of a product. Constants that share a text do so on
-/// purpose.
+/// A name begins with `KPPD` or `kPPD` for an option and, but for a few options, with `kQZ` for an
+/// attribute; "QZX...Settings" states a feature class of a product. Constants that share a text do
+/// so on purpose.
 
 // Options and attributes that only the sibling panels ask for.
 inline constexpr const char *kQZProductTypeFeatures = "QZXFeaturesSettings";

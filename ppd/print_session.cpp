@@ -1,5 +1,7 @@
 #include "ppd/print_session.h"
 
+#include "ppd/unit_utils.h"
+
 #include <QStringDecoder>
 
 #include <cstring>
@@ -15,6 +17,7 @@ bool isNumber(const QVariant &data) {
     case QMetaType::UInt:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
+    case QMetaType::Float:
     case QMetaType::Double:
         return true;
     default:
@@ -30,7 +33,9 @@ PMStatus GetTicketFromSession(PMPrintSession session, const QString &key, void *
     QVariant data;
     if (PMSessionGetDataFromSession(session, key, &data) != kPMNoError || !isNumber(data))
         return kPMNoTicketValue;
-    const auto number = static_cast<int32_t>(data.toLongLong());
+    const bool whole = data.typeId() != QMetaType::Double && data.typeId() != QMetaType::Float;
+    const auto number =
+        whole ? static_cast<int32_t>(data.toLongLong()) : truncatedToInt(data.toDouble());
     std::memcpy(out, &number, sizeof number);
     return kPMNoError;
 }

@@ -1,12 +1,12 @@
 #include "services/help.h"
 
+#include "platform/file_content.h"
 #include "platform/help_viewer.h"
 #include "platform/log.h"
 #include "services/bundle_identity.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <plist/plist.h>
 
@@ -103,9 +103,7 @@ void writePlist(plist_t root, const QString &path) {
     plist_to_xml(root, &xml, &length);
     if (!xml)
         return;
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(xml, length) == length)
-        file.commit();
+    writeWholeFile(path, QByteArray(xml, length));
     plist_to_xml_free(xml);
 }
 

@@ -2,8 +2,6 @@
 
 #include "platform/file_content.h"
 
-#include <QSaveFile>
-
 #include <Magick++.h>
 
 #include <algorithm>
@@ -113,9 +111,7 @@ int32_t convert(const QString &source, const QString &target, const FileType &ty
         return kImageFailed;
     if (&type == &kFileTypes[kImageBMP] && VerticalReverse(&data) != kImageDone)
         return kImageFailed;
-    QSaveFile file(target);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(data) == data.size();
-    return written && file.commit() ? kImageDone : kImageFailed;
+    return writeWholeFile(target, data) ? kImageDone : kImageFailed;
 }
 
 } // namespace

@@ -25,7 +25,7 @@ std::unique_ptr<QTemporaryFile> copyWithCarriageReturns(const QByteArray &text) 
     QByteArray lines = text;
     lines.replace("\r\n", "\r").replace('\n', '\r');
     if (!copy->open() || copy->write(lines) != lines.size() || !copy->flush())
-        throw ToolError(QStringLiteral("temporary file"), copy->errorString());
+        throw ToolError(copy->fileTemplate(), reasonOf(*copy));
     return copy;
 }
 

@@ -50,7 +50,7 @@ protected:
         }
         const auto size = pptr() - pbase();
         if (m_file.write(pbase(), size) != size)
-            throw ToolError(m_file.fileName(), m_file.errorString());
+            throw ToolError(m_file.fileName(), reasonOf(m_file));
         setp(m_bytes.data(), m_bytes.data() + m_bytes.size());
         m_progress.reach(m_delimiters / 4);
         return 0;
@@ -117,8 +117,8 @@ void writeCache(const CommandLine &line) {
                                                      "\"@\", which a cache file can't hold"));
         progress.reach(entries);
     }
-    if (!file.commit())
-        throw ToolError(line.cache, file.errorString());
+    if (!commitWhole(file))
+        throw ToolError(line.cache, reasonOf(file));
     if (!ppd.text.contains(QByteArray::fromStdString(STRPPDSTAMP)))
         std::fprintf(stderr, "cdf-tool: %s: no \"%s\" line, the cache has no stamp\n",
                      qUtf8Printable(line.ppd), STRPPDSTAMP.c_str());

@@ -16,7 +16,8 @@ BasePrintPanelKRVImageOptions::~BasePrintPanelKRVImageOptions() {
 
 void BasePrintPanelKRVImageOptions::leaveParent() {
     if (m_registeredWith && m_registeredWith->fWindowGroupArray)
-        std::erase(*m_registeredWith->fWindowGroupArray, this);
+        m_registeredWith->_parentPane_num_item -=
+            static_cast<int32_t>(std::erase(*m_registeredWith->fWindowGroupArray, this));
     m_registeredWith = nullptr;
     pParentPane = nullptr;
 }

@@ -76,7 +76,7 @@ public:
     /// The same without the test of the view, in the list of installable controls.
     int32_t RunTimeAddNewInstallableControl(std::unique_ptr<BaseControlKRVImageOptions> control);
     /// Registers a child window, which the caller owns. It leaves a former parent, and leaves this
-    /// one when it is destroyed. @return the number of windows registered before it
+    /// one when it is destroyed. @return the number of windows before it
     int32_t RunTimeAddNewWindow(BasePrintPanelKRVImageOptions *window);
 
     virtual int32_t SetUIDataToIniData();

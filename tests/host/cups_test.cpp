@@ -1,5 +1,5 @@
-#include "cups_daemon.h"
 #include "run_host.h"
+#include "support/cups_daemon.h"
 #include "support/ppd_text.h"
 
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
-#include "cups_daemon.h"
+#include "support/cups_daemon.h"
 
-#include "run_host.h"
+#include "support/run_program.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+
+/// Prints Google Benchmark's table and remembers the median of each benchmark's repetitions, in
+/// seconds; a memory benchmark's is its counter "bytes".
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run> &runs) override;
+    /// Prints "ratio NAME VALUE BOUND ok|short" for each measure, then "growth NAME EXPONENT".
+    void Finalize() override;
+
+private:
+    std::map<std::string, double> m_cost;
+};
