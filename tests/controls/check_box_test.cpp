@@ -108,6 +108,9 @@ TEST_F(CheckBoxTest, OpenTakesUpMarks) {
     EXPECT_TRUE(box->valueChanged());
     host->refuses = true;
     EXPECT_FALSE(box->GetValueToPreset());
+    unmark(kKey);
+    EXPECT_TRUE(box->GetValueToPreset());
+    EXPECT_EQ(box->GetValueFromControl()->word(), 1) << "without a mark the value stays";
 }
 
 TEST_F(CheckBoxTest, OnlyTheCheckedBoxReportsAndAMissingOptionIsHarmless) {

@@ -104,6 +104,13 @@ protected:
             title += "=" + rows.value(title).toString();
         return order;
     }
+    /// Takes an option's mark away.
+    void unmark(const char *option) {
+        ppd_choice_t *choice = ppdFindMarkedChoice(ppd.get(), option);
+        ASSERT_TRUE(choice);
+        choice->marked = 0;
+        cupsArrayRemove(ppd->marked, choice);
+    }
     /// Whether a control has reported the option as there.
     static bool reported(const char *key) { return CPPDChecker::Instance()->checks.at(key); }
     /// Whether the control has something for the host or the ticket.

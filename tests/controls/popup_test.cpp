@@ -99,6 +99,20 @@ TEST_F(PopupTest, RefusedChoiceGoesBackToTheItemShown) {
     EXPECT_EQ(log, QStringList({"update r"}));
 }
 
+TEST_F(PopupTest, ChangedValueIsSentOnceAndARefusalKeepsIt) {
+    build(kPpd);
+    EXPECT_FALSE(save(mode));
+    menu(mode)->chooseItem(2);
+    panel.SetValueFromUIToControl();
+    host->refuses = true;
+    EXPECT_FALSE(save(mode) || mode->GetValueToPreset());
+    EXPECT_TRUE(mode->valueChanged());
+    host->refuses = false;
+    EXPECT_TRUE(save(mode));
+    EXPECT_EQ(host->calls, Calls({{kMode, "Auto"}}));
+    EXPECT_FALSE(save(mode));
+}
+
 TEST_F(PopupTest, MissingOptionStaysHiddenWhateverConstraintsSay) {
     build(ppdOption(kMode, {"Color", "Black"}));
     EXPECT_TRUE(views::isHidden(menu(type)));

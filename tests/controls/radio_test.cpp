@@ -104,6 +104,8 @@ TEST_F(RadioTest, GroupKnowsItsCurrentButton) {
     EXPECT_EQ(group.GetcurRadio(), -1);
     advanced->SimulationUIEventHandler();
     EXPECT_EQ(group.GetcurRadio(), 0) << "the first button counts as current when none was";
+    group.SetcurRadio(2);
+    EXPECT_EQ(group.GetcurRadio(), 0) << "there is no such button";
     const int32_t on = 1;
     basic->Disable();
     EXPECT_FALSE(basic->SetExternalValueToUI(&on, sizeof on)) << "disabled, and set all the same";

@@ -15,6 +15,13 @@ TEST_F(StepperTest, OpensWithTheMarkAndTellsTheHost) {
     EXPECT_EQ(host->calls, (Calls{{kKey, "3"}}));
     panel.SetCurrentValueToUI();
     expectBothShow(3);
+    host->refuses = true;
+    EXPECT_FALSE(stepper->GetValueToPreset());
+    EXPECT_EQ(stepper->GetValueFromControl()->word(), 0);
+    stepper->ConvertFromPreferenceString("2");
+    unmark(kPPDColorDensityCyanLowKey);
+    EXPECT_TRUE(stepper->GetValueToPreset());
+    EXPECT_EQ(stepper->GetValueFromControl()->word(), 0) << "without a mark it is 0";
 }
 
 TEST_F(StepperTest, ArrowWritesTheFieldAndBeepsAtTheLimitWithoutAnEvent) {

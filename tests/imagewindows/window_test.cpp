@@ -131,4 +131,9 @@ TEST_F(WindowTest, RunsNestAndSurviveTheirOwner) {
     });
 }
 
+TEST_F(WindowTest, RunEndsWithThePanel) {
+    build();
+    run([&] { panel.terminate(); });
+}
+
 } // namespace
