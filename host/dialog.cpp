@@ -6,7 +6,6 @@
 #include "host/files.h"
 #include "host/host_error.h"
 #include "host/print.h"
-#include "host/ps_job.h"
 #include "platform/views/alert.h"
 #include "platform/views/form_loader.h"
 #include "platform/views/modal_window.h"
@@ -137,8 +136,7 @@ void PrintDialog::printDocument() {
         sendToCups(m_stage, document);
     } else {
         Outputs outputs({path, m_stage.source().path});
-        outputs.add(target, writePsJob(m_stage.source().ppd.get(), toPostScript(document),
-                                       QFileInfo(path).fileName()));
+        outputs.add(target, psJob(m_stage, document));
         outputs.commit();
     }
     accept();

@@ -265,7 +265,10 @@ QJsonObject Driver::print(const QJsonObject &command) {
     const QString to = command[QStringLiteral("to")].toString();
     if (to.isEmpty())
         return refused(QStringLiteral("\"to\" must be a file's name"));
-    const Document document = readDocument(command[QStringLiteral("document")].toString());
+    const QString source = command[QStringLiteral("document")].toString();
+    if (source.isEmpty())
+        return refused(QStringLiteral("\"document\" must be a file's name"));
+    const Document document = readDocument(source);
     Outputs outputs({document.path, m_stage.source().path});
     PanelSession &session = m_stage.session();
     QVariantMap summary;
@@ -322,9 +325,10 @@ QJsonObject Driver::shot(const QJsonObject &command) {
     const QString path = command[QStringLiteral("to")].toString();
     if (path.isEmpty())
         return refused(QStringLiteral("\"to\" must be a file's name"));
-    QWidget *front = command[QStringLiteral("of")] == QLatin1String("help")
-                         ? helpViewerWindow()
-                         : QApplication::activeModalWidget();
+    const bool ofHelp = command[QStringLiteral("of")] == QLatin1String("help");
+    if (ofHelp && !(helpViewerWindow() && helpViewerWindow()->isVisible()))
+        return refused(QStringLiteral("no help is shown"));
+    QWidget *front = ofHelp ? helpViewerWindow() : QApplication::activeModalWidget();
     Outputs outputs({m_stage.source().path});
     outputs.add(path, pngContent((front ? front : m_stage.window())->grab()));
     outputs.commit();
