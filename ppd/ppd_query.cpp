@@ -73,7 +73,8 @@ bool CheckPPDKeyIsExist(ppd_file_t *ppd, const char *key) {
 
 bool CDFKeyExist(ppd_file_t *ppd, const QString &name) {
     const QByteArray bytes = name.toUtf8();
-    return bytes.size() < kNameBytes && ppdFindAttr_ALT(ppd, bytes.constData(), nullptr);
+    return !name.isNull() && bytes.size() < kNameBytes &&
+           ppdFindAttr_ALT(ppd, bytes.constData(), nullptr);
 }
 
 ppd_attr_t *ppdFindAttr_ALT(ppd_file_t *ppd, const char *name, const char *) {

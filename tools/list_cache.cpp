@@ -35,7 +35,8 @@ void listCache(const CommandLine &line) {
                 sayEntry(words(run.key, text), count);
             progress.reach(reader.position());
         }
-        say(QStringLiteral("  %1 entries").arg(entries));
+        if (reader.fault().isNull())
+            say(QStringLiteral("  %1 entries").arg(entries));
     }
     progress.reach(reader.position());
     if (!reader.fault().isNull())

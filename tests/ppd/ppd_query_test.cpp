@@ -9,6 +9,7 @@ struct PpdQuery : testing::Test {
         openPpdText(ppdOption("QZScreen", {"A", "b", "B", "C4to8", "E"}, "B", "Bildschirm") +
                     ppdOption("QZNumber", {"4to8", "None"}) +
                     "*QZXCDFSettingOld: \"abc12\"\n*QZXCDFSetting: \"x\"\n"
+                    "*QZAttributeOf20Bytes: \"x\"\n"
                     "*QZZero: \"0\"\n*QZMinus: \"a-5b\"\n*QZBlank: \" 7\"\n*QZNone: \"abc\"\n"
                     "*QZMixed: \"1a2b\"\n*QZLong: \"12345\"\n*QZUmlaut: \"\303\2741234\"\n");
     ppd_file_t *ppd = owner.get();
@@ -19,7 +20,9 @@ TEST_F(PpdQuery, AttributesAreFoundByPrefixAndCase) {
     EXPECT_STREQ(ppdFindAttr_ALT(ppd, "QZXCDFSetting", nullptr)->name, "QZXCDFSettingOld");
     EXPECT_EQ(ppdFindAttr_ALT(ppd, "", "no part"), ppd->attrs[0]);
     EXPECT_EQ(ppdFindAttr_ALT(ppd, "qzxcdf", nullptr), nullptr);
-    EXPECT_FALSE(CDFKeyExist(ppd, "QZXCDFSettingOldAndLonger"));
+    EXPECT_TRUE(CDFKeyExist(ppd, "QZAttributeOf20Byte")) << "19 bytes";
+    EXPECT_FALSE(CDFKeyExist(ppd, "QZAttributeOf20Bytes")) << "too long to be asked for";
+    EXPECT_FALSE(CDFKeyExist(ppd, QString()));
     EXPECT_TRUE(CheckPPDKeyIsExist(ppd, "qzscreen"));
     EXPECT_FALSE(CheckPPDKeyIsExist(ppd, "QZXCDFSetting"));
 }

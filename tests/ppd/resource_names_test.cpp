@@ -35,4 +35,7 @@ TEST(ResourceNames, VendorPrefixTakesTheConstantsCase) {
         FixPPDKeywordAccordingToType(ours.get(), keyword.constData(), out);
         EXPECT_EQ(QByteArray(out), expected);
     }
+    char out[100] = {};
+    FixPPDKeywordAccordingToType(nullptr, "qzThing", out);
+    EXPECT_STREQ(out, "qzThing") << "a PPD of nobody keeps the spelling";
 }
