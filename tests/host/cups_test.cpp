@@ -2,9 +2,17 @@
 #include "support/cups_daemon.h"
 #include "support/ppd_text.h"
 
+#include "host/bundle_loader.h"
+#include "host/cups_server.h"
+#include "host/dialog.h"
+#include "platform/views/modal_window.h"
+#include "platform/views/stepper_view.h"
+
 #include <QElapsedTimer>
 #include <QFile>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -112,4 +120,37 @@ TEST(Cups, SilentOrMissingServerIsGivenUp) {
         EXPECT_EQ(run.err.count('\n'), 1) << run.err.constData();
     }
     EXPECT_LT(timer.elapsed(), 40000);
+}
+
+/// The dialog on a queue, worked by a person who shifts a density and prints.
+TEST(Cups, DialogPrintsWhatItsWindowsChose) {
+    CupsDaemon cups;
+    ASSERT_TRUE(cups.start() && cups.addQueue("Queue", samplePath("velmora-mvo-530.ppd")))
+        << cups.log().constData();
+    cupsSetServer(cups.environment()[0].section('=', 1).toUtf8().constData());
+    {
+        host::CupsServer server;
+        host::PanelStage stage(host::openQueue(server, "Queue"), *host::loadBundle(BUNDLE_DIR));
+        host::PrintDialog dialog(stage, true, samplePath("sample.ps"));
+        QTimer::singleShot(0, &dialog, [&] {
+            QTimer::singleShot(0, &dialog, [] {
+                ModalWindow *window = ModalWindow::current();
+                ASSERT_TRUE(window);
+                window->findChild<QAbstractButton *>("graphicWndAdjustCBCboxCtrl")->click();
+                window->findChild<StepperView *>("gWndLowDCBLarrCtrl")->stepBy(2);
+                window->findChild<QAbstractButton *>("graphicWndOKPushCtrl")->click();
+            });
+            dialog.findChild<QAbstractButton *>("colorbalanceButtonCtrl")->click();
+            for (auto *button : dialog.findChildren<QPushButton *>())
+                if (button->isDefault())
+                    return button->click();
+        });
+        EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+    }
+    cupsSetServer(nullptr);
+    ASSERT_TRUE(cups.waitForJobs("Queue")) << cups.log().constData();
+    const QStringList printed = features(readFile(cups.outputOf("Queue")));
+    for (const char *feature : {"*QZColorBalanceAdjustment True", "*QZColorDensityBlackLow 2",
+                                "*QZColorDensityCyanLow 0"})
+        EXPECT_TRUE(printed.contains(feature)) << feature;
 }

@@ -34,9 +34,10 @@ protected:
     StepperView *stepper(int color, int row) { return at<StepperView>(3600 + color + 10 * row); }
     PopupView *targets() { return at<PopupView>(gTrgtClrLboxID); }
     void press(int tag) { at<QAbstractButton>(tag)->click(); }
+    QImage preview() { return at<QWidget>(gClrBlncImgHviewID)->grab().toImage(); }
     /// The lit bars of the preview's columns, as it is drawn.
     QList<int> bars() {
-        const QImage image = at<QWidget>(gClrBlncImgHviewID)->grab().toImage();
+        const QImage image = preview();
         QList<int> lit{0, 0, 0};
         for (int bar = 0; bar < 21; ++bar)
             lit[bar % 3] += image.pixelColor(31 + bar % 3 * 106, 139 - bar / 3 * 21) != Qt::white;
@@ -70,6 +71,8 @@ protected:
             EXPECT_EQ(title->buddy(), edit(target, row));
             EXPECT_EQ(title->stringValue(), stepper(target, row)->accessibleName());
         }
+        constexpr QRgb kLowest[] = {0xFF787878, 0xFFA4F9F9, 0xFFF9A4F9, 0xFFF9F9A4};
+        EXPECT_EQ(preview().pixel(31, 139), off ? 0xFFFFFFFF : kLowest[target]);
     }
 
     ColorBalanceWndKRV balance;
@@ -80,7 +83,7 @@ TEST_F(ColorBalanceTest, EveryRoadKeepsTheCountsBalanced) {
     auto below = [random = std::mt19937(7)](int n) mutable { return int(random() % n); };
     for (int opening = 0; opening < 30 && !HasFailure(); ++opening) {
         if (below(3) == 0)
-            SetUp(); // on the form as the former controls have left it
+            SetUp(); // built anew
         if (below(6) == 0)
             panel.releaseHolds(), start(); // what a change of the PPD does
         run([&] {

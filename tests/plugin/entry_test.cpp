@@ -1,5 +1,7 @@
 #include "plugin_fixture.h"
 
+#include "support/text_bundle.h"
+
 #include <QTemporaryDir>
 
 namespace {
@@ -41,6 +43,8 @@ TEST_F(EntryTest, TypeAttributeAndResourcesAreAGate) {
 TEST_F(EntryTest, FirstBundleWins) {
     const std::shared_ptr<Bundle> before = pluginBundle;
     EXPECT_TRUE(plugin.initWithBundle(nullptr));
+    const TextBundle other;
+    EXPECT_TRUE(plugin.initWithBundle(Bundle::withIdentifier(other->identifier())));
     EXPECT_EQ(pluginBundle, before);
 }
 

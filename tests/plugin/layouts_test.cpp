@@ -1,10 +1,12 @@
 #include "plugin_fixture.h"
 
 #include "platform/help_viewer.h"
+#include "platform/views/modal_window.h"
 #include "services/help.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QTimer>
 
 namespace {
 
@@ -37,6 +39,16 @@ protected:
         return view;
     }
 
+    /// Every title that is shown has the room that it needs.
+    static void expectWhole(const QWidget *root) {
+        for (const QWidget *view : root->findChildren<QWidget *>()) {
+            const bool shown = view->isVisible() && dynamic_cast<const views::Captioned *>(view);
+            const QSize needed = shown ? view->sizeHint() : QSize();
+            EXPECT_EQ(view->size(), view->size().expandedTo(needed))
+                << qPrintable(view->objectName());
+        }
+    }
+
     PpdPtr ppd;
     std::unique_ptr<PDEPanel> panel;
 };
@@ -52,14 +64,16 @@ TEST_F(LayoutsTest, NoTextIsCutAndNothingJumps) {
             if (auto *radio = root->findChild<RadioView *>(mode))
                 radio->click();
             QApplication::processEvents();
-            for (const QWidget *view : root->findChildren<QWidget *>()) {
-                const bool shown =
-                    view->isVisible() && dynamic_cast<const views::Captioned *>(view);
-                const QSize needed = shown ? view->sizeHint() : QSize();
-                EXPECT_EQ(view->size(), view->size().expandedTo(needed))
-                    << qPrintable(view->objectName());
-            }
+            expectWhole(root);
             EXPECT_EQ(QRect(below->mapTo(root, QPoint()), below->size()), place) << mode;
+        }
+        for (const char *opener : {"colorbalanceButtonCtrl", "imageAdjustmentButtonCtrl"}) {
+            QTimer::singleShot(0, root, [this] {
+                if (ModalWindow *window = ModalWindow::current())
+                    expectWhole(window), window->reject();
+            });
+            root->findChild<QAbstractButton *>(opener)->click();
+            QApplication::processEvents();
         }
     }
 }
