@@ -1,6 +1,7 @@
 #include "controls/check_box_family.h"
 
 #include "controls/value_text.h"
+#include "platform/utf8.h"
 #include "platform/views/check_box_view.h"
 #include "ppd/product_type.h"
 

@@ -2,6 +2,7 @@
 
 #include "controls/base_control.h"
 #include "controls/value_text.h"
+#include "platform/utf8.h"
 #include "ppd/conflicts.h"
 #include "ppd/ppd_query.h"
 

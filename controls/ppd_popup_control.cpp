@@ -2,6 +2,7 @@
 
 #include "controls/popup_family.h"
 #include "controls/value_text.h"
+#include "platform/utf8.h"
 #include "platform/views/popup_view.h"
 #include "ppd/ppd_query.h"
 #include "ppd/product_type.h"

@@ -2,6 +2,7 @@
 
 #include "controls/text_entry_family.h"
 #include "controls/value_text.h"
+#include "platform/utf8.h"
 #include "platform/views/stepper_view.h"
 #include "ppd/product_type.h"
 #include "ppd/text_utils.h"

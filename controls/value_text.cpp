@@ -34,12 +34,3 @@ void addSummaryRow(const QString &title, const QString &text, QVariantMap *summa
     summary->insert(title, text);
     orderArray->append(title);
 }
-
-QString cutToBytes(const QString &text, int bytes) {
-    QByteArray utf8 = text.toUtf8();
-    if (utf8.size() <= bytes)
-        return text;
-    while (bytes > 0 && (static_cast<unsigned char>(utf8[bytes]) & 0xC0) == 0x80)
-        --bytes;
-    return QString::fromUtf8(utf8.first(bytes));
-}

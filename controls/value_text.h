@@ -30,6 +30,3 @@ inline constexpr int kSummaryTextBytes = 23;
 /// end of the order.
 void addSummaryRow(const QString &title, const QString &text, QVariantMap *summary,
                    QStringList *orderArray);
-
-/// The longest start of a text that, as UTF-8, has at most `bytes` bytes and ends at a character.
-QString cutToBytes(const QString &text, int bytes);

@@ -22,14 +22,10 @@ Outputs::Outputs(const QStringList &inputs) : m_inputs(inputs) {}
 Outputs::~Outputs() = default;
 
 void Outputs::add(const QString &path, const QByteArray &content) {
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
-        throw HostError(path, QStringLiteral("is not a regular file"));
-    for (const QString &input : m_inputs)
-        if (isSameFile(path, input))
-            throw HostError(path, QStringLiteral("is read by this command; name another file"));
+    if (const QString refusal = refusalToReplace(path, m_inputs); !refusal.isNull())
+        throw HostError(path, refusal);
     for (const auto &other : m_files)
-        if (QFileInfo(other->fileName()).absoluteFilePath() == info.absoluteFilePath())
+        if (QFileInfo(other->fileName()).absoluteFilePath() == QFileInfo(path).absoluteFilePath())
             throw HostError(path, QStringLiteral("is named for two outputs"));
     auto file = std::make_unique<QSaveFile>(path);
     if (!file->open(QIODevice::WriteOnly) || file->write(content) != content.size() ||

@@ -1,6 +1,7 @@
 #include "imagewindows/output_mode_list.h"
 
 #include "controls/value_text.h"
+#include "platform/utf8.h"
 #include "ppd/ppd_keys.h"
 #include "ppd/ppd_query.h"
 #include "ppd/resource_names.h"

@@ -11,32 +11,41 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-std::optional<QByteArray> readRegularFile(const QString &path, qint64 limit, QString *reason) {
-    const auto refuse = [reason](const QString &why) {
-        *reason = why;
-        return std::nullopt;
-    };
+int openRegularFile(const char *path, QString *reason) {
     const auto systemReason = [] { return QString::fromLocal8Bit(std::strerror(errno)); };
-    const int fd =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    const int fd = ::open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    struct stat info = {};
+    if (fd < 0 || ::fstat(fd, &info) != 0)
+        *reason = systemReason();
+    else if (!S_ISREG(info.st_mode))
+        *reason = S_ISDIR(info.st_mode) ? QStringLiteral("is a directory")
+                                        : QStringLiteral("is not a regular file");
+    else
+        return fd;
+    if (fd >= 0)
+        ::close(fd);
+    return -1;
+}
+
+std::optional<QByteArray> readRegularFile(const QString &path, qint64 limit, QString *reason) {
+    const int fd = openRegularFile(QFile::encodeName(path).constData(), reason);
     if (fd < 0)
-        return refuse(systemReason());
+        return std::nullopt;
     QFile file;
     if (!file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         ::close(fd);
-        return refuse(file.errorString());
+        *reason = file.errorString();
+        return std::nullopt;
     }
-    struct stat info = {};
-    if (::fstat(fd, &info) != 0)
-        return refuse(systemReason());
-    if (!S_ISREG(info.st_mode))
-        return refuse(S_ISDIR(info.st_mode) ? QStringLiteral("is a directory")
-                                            : QStringLiteral("is not a regular file"));
-    if (info.st_size > limit)
-        return refuse(QStringLiteral("is larger than %1 MB").arg(limit >> 20));
+    if (file.size() > limit) {
+        *reason = QStringLiteral("is larger than %1 MB").arg(limit >> 20);
+        return std::nullopt;
+    }
     QByteArray content = file.read(limit);
-    if (file.error() != QFileDevice::NoError)
-        return refuse(file.errorString());
+    if (file.error() != QFileDevice::NoError) {
+        *reason = file.errorString();
+        return std::nullopt;
+    }
     return content;
 }
 
@@ -64,4 +73,14 @@ bool writeWholeFile(const QString &path, const QByteArray &content, QString *rea
 bool isSameFile(const QString &first, const QString &second) {
     const QString path = QFileInfo(first).canonicalFilePath();
     return !path.isEmpty() && path == QFileInfo(second).canonicalFilePath();
+}
+
+QString refusalToReplace(const QString &path, const QStringList &inputs) {
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return QStringLiteral("is not a regular file");
+    for (const QString &input : inputs)
+        if (isSameFile(path, input))
+            return QStringLiteral("is read by this command; name another file");
+    return {};
 }

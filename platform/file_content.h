@@ -4,15 +4,22 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
 class QFileDevice;
 class QSaveFile;
 
-/// Reads a whole regular file. A FIFO, device or directory is refused at once and never waited for.
+/// Opens a file for reading. A FIFO, device or directory is refused at once and never waited for.
+/// @param path    as the file system has it
+/// @param reason  told on failure: half a sentence, the system's own where it has one
+/// @return a descriptor that the caller closes; -1 on failure
+PDE_PLATFORM_EXPORT int openRegularFile(const char *path, QString *reason);
+
+/// Reads a whole file that openRegularFile() opens.
 /// @param limit   the greatest size taken, in bytes
-/// @param reason  told when nothing is returned: half a sentence, the system's own where it has one
+/// @param reason  told when nothing is returned, as above
 PDE_PLATFORM_EXPORT std::optional<QByteArray> readRegularFile(const QString &path, qint64 limit,
                                                               QString *reason);
 
@@ -30,3 +37,7 @@ PDE_PLATFORM_EXPORT bool writeWholeFile(const QString &path, const QByteArray &c
 
 /// @return whether two names lead to one file that exists
 PDE_PLATFORM_EXPORT bool isSameFile(const QString &first, const QString &second);
+
+/// Why a command may not write under a name: half a sentence; null where it may.
+/// @param inputs  the files that the command reads; empty names are passed over
+PDE_PLATFORM_EXPORT QString refusalToReplace(const QString &path, const QStringList &inputs);

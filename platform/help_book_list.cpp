@@ -3,54 +3,53 @@
 #include "platform/file_content.h"
 #include "platform/help_viewer.h"
 #include "platform/log.h"
+#include "platform/property_list.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-#include <plist/plist.h>
-
-#include <memory>
-#include <type_traits>
+#include <utility>
 
 namespace help_books {
 
 namespace {
 
+using namespace property_list;
+
+constexpr qint64 kGreatestList = 16 << 20;
 constexpr char kBooks[] = "RegisteredBooks";
 constexpr char kOrder[] = "RegistrationOrder";
 
-struct NodeFree {
-    void operator()(plist_t node) const { plist_free(node); }
-};
-using Node = std::unique_ptr<std::remove_pointer_t<plist_t>, NodeFree>;
-
 QByteArray unsavedList; ///< the list as XML, when it could not be written
 
-Node readList() {
-    QByteArray data = unsavedList;
-    if (QFile file(helpViewerPreferencePath());
-        data.isEmpty() && QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
-        data = file.readAll();
-    plist_t root = nullptr;
-    if (!data.isEmpty())
-        plist_from_memory(data.constData(), static_cast<uint32_t>(data.size()), &root);
-    if (root && PLIST_IS_DICT(root))
-        return Node(root);
-    plist_free(root);
-    return Node(plist_new_dict());
+/// What stands in the list's file: null when there is no such file, or an unreadable one.
+QByteArray storedList() {
+    QString reason;
+    return readRegularFile(helpViewerPreferencePath(), kGreatestList, &reason)
+        .value_or(QByteArray());
+}
+
+List readList() {
+    List root = parse(unsavedList.isEmpty() ? storedList() : unsavedList);
+    return root && PLIST_IS_DICT(root.get()) ? std::move(root) : List(plist_new_dict());
+}
+
+/// Why the file under the list's name must stay: it holds something else than a list of books.
+QString refusalToReplace() {
+    const QFileInfo info(helpViewerPreferencePath());
+    if (!info.exists() || (info.isFile() && info.size() == 0))
+        return {};
+    const List stored = parse(storedList());
+    return stored && PLIST_IS_DICT(stored.get()) ? QString()
+                                                 : QStringLiteral("isn't a list of help books");
 }
 
 void writeList(plist_t root) {
-    char *xml = nullptr;
-    uint32_t length = 0;
-    plist_to_xml(root, &xml, &length);
-    const QByteArray data(xml, length);
-    plist_to_xml_free(xml);
-
+    const QByteArray data = toXml(root);
     const QString path = helpViewerPreferencePath();
     QDir().mkpath(QFileInfo(path).path());
-    QString reason;
-    const bool written = writeWholeFile(path, data, &reason);
+    QString reason = refusalToReplace();
+    const bool written = reason.isEmpty() && writeWholeFile(path, data, &reason);
     if (!written)
         qCWarning(panelLog, "%s: %s", qUtf8Printable(path), qUtf8Printable(reason));
     unsavedList = written ? QByteArray() : data;
@@ -58,26 +57,22 @@ void writeList(plist_t root) {
 
 /// The item under a key, made anew where it is missing or of another kind.
 plist_t child(plist_t dict, const char *key, plist_type type, plist_t (*make)()) {
-    plist_t item = plist_dict_get_item(dict, key);
-    if (item && plist_get_node_type(item) == type)
-        return item;
-    item = make();
-    plist_dict_set_item(dict, key, item);
-    return item;
+    plist_t node = item(dict, key);
+    if (node && plist_get_node_type(node) == type)
+        return node;
+    node = make();
+    plist_dict_set_item(dict, key, node);
+    return node;
 }
 
-QString text(plist_t node) {
-    uint64_t length = 0;
-    const char *bytes =
-        node && PLIST_IS_STRING(node) ? plist_get_string_ptr(node, &length) : nullptr;
-    return bytes ? QString::fromUtf8(bytes, static_cast<qsizetype>(length)) : QString();
+QString textOf(plist_t node) {
+    return QString::fromUtf8(text(node));
 }
 
-QStringList texts(plist_t node) {
+QStringList textsOf(plist_t node) {
     QStringList list;
-    const uint32_t count = node && PLIST_IS_ARRAY(node) ? plist_array_get_size(node) : 0;
-    for (uint32_t i = 0; i < count; ++i)
-        list += text(plist_array_get_item(node, i));
+    for (uint32_t i = 0; i < count(node); ++i)
+        list += textOf(plist_array_get_item(node, i));
     return list;
 }
 
@@ -86,20 +81,18 @@ plist_t newText(const QString &text) {
 }
 
 std::optional<Book> bookUnder(plist_t books, const QString &identifier) {
-    plist_t entries = plist_dict_get_item(books, identifier.toUtf8().constData());
-    const bool present = entries && PLIST_IS_ARRAY(entries) && plist_array_get_size(entries) > 0;
-    plist_t entry = present ? plist_array_get_item(entries, 0) : nullptr;
+    plist_t entries = item(books, identifier.toUtf8().constData());
+    plist_t entry = count(entries) > 0 ? plist_array_get_item(entries, 0) : nullptr;
     if (!entry || !PLIST_IS_DICT(entry))
         return {};
-    return Book{identifier, text(plist_dict_get_item(entry, "bundle")),
-                QUrl(text(plist_dict_get_item(entry, "url"))),
-                texts(plist_dict_get_item(entry, "titles"))};
+    return Book{identifier, textOf(item(entry, "bundle")), QUrl(textOf(item(entry, "url"))),
+                textsOf(item(entry, "titles"))};
 }
 
 } // namespace
 
 void add(const Book &book) {
-    const Node root = readList();
+    const List root = readList();
     plist_t titles = plist_new_array();
     for (const QString &title : book.titles)
         plist_array_append_item(titles, newText(title));
@@ -112,15 +105,15 @@ void add(const Book &book) {
     plist_dict_set_item(child(root.get(), kBooks, PLIST_DICT, plist_new_dict),
                         book.identifier.toUtf8().constData(), entries);
     plist_t order = child(root.get(), kOrder, PLIST_ARRAY, plist_new_array);
-    if (!texts(order).contains(book.identifier))
+    if (!textsOf(order).contains(book.identifier))
         plist_array_append_item(order, newText(book.identifier));
     writeList(root.get());
 }
 
 std::optional<Book> find(const QString &title) {
-    const Node root = readList();
-    plist_t books = child(root.get(), kBooks, PLIST_DICT, plist_new_dict);
-    for (const QString &identifier : texts(plist_dict_get_item(root.get(), kOrder)))
+    const List root = readList();
+    plist_t books = item(root.get(), kBooks);
+    for (const QString &identifier : textsOf(item(root.get(), kOrder)))
         if (std::optional<Book> book = bookUnder(books, identifier);
             book && book->titles.contains(title))
             return book;

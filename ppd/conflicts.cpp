@@ -40,9 +40,8 @@ int32_t GetUIListFromPPD(ppd_file_t *ppd, const hash_multimap *table, const char
     for (int i = 0; i < option->num_choices; ++i) {
         const ppd_choice_t &choice = option->choices[i];
         const QString name = QString::fromUtf8(choice.choice);
-        const QString label = decodePpdText(choice.text, encoding);
         const bool conflicted = IsPPDChoiceConflicted(ppd, table, option->keyword, choice.choice);
-        list->append({keyword, name, label.isEmpty() ? name : label,
+        list->append({keyword, name, labelOr(choice.text, encoding, choice.choice),
                       conflicted ? kConflictTrue : kConflictFalse});
         if (count)
             ++*count;

@@ -1,5 +1,6 @@
 #include "ppd/ppd_query.h"
 
+#include "platform/utf8.h"
 #include "ppd/ppd_keys.h"
 
 #include <QStringDecoder>
@@ -143,9 +144,7 @@ int GetUITitleFromPPD(ppd_file_t *ppd, const char *key, QString &out) {
     if (const ppd_option_t *option = findOption(ppd, key)) {
         unsigned int encoding;
         GetCFStringEncodingFromPPD(ppd, &encoding);
-        out = decodePpdText(option->text, encoding);
-        if (out.isEmpty())
-            out = QString::fromUtf8(option->keyword);
+        out = labelOr(option->text, encoding, option->keyword);
     }
     return 0;
 }
@@ -194,6 +193,11 @@ QString decodePpdText(const char *text, unsigned int encoding) {
     return decoded.isNull() ? QStringLiteral("") : decoded;
 }
 
+QString labelOr(const char *text, unsigned int encoding, const char *keyword) {
+    const QString label = decodePpdText(text, encoding);
+    return label.isEmpty() ? QString::fromUtf8(keyword) : label;
+}
+
 int getIntFromString(const char *text, unsigned int n) {
     char digits[kNumberBytes] = {};
     size_t count = 0;
@@ -227,12 +231,13 @@ int GetMBMaxNumberFromPPD(ppd_file_t *ppd, const char *name) {
         return 0;
     unsigned int encoding;
     GetCFStringEncodingFromPPD(ppd, &encoding);
-    QStringDecoder decode(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
-    const QString value = decode(QByteArrayView(attribute->value));
+    const std::optional<QString> value = strictUtf8(attribute->value);
+    if (!value)
+        return 0;
     QStringEncoder encode(decoderName(encoding));
-    const QByteArray bytes = encode(value);
-    const bool converts = !decode.hasError() && bytes.size() < qsizetype(kNumberBytes) &&
-                          decodePpdText(bytes.constData(), encoding) == value;
+    const QByteArray bytes = encode(*value);
+    const bool converts = bytes.size() < qsizetype(kNumberBytes) &&
+                          decodePpdText(bytes.constData(), encoding) == *value;
     return converts ? getIntFromString(bytes.constData(), // past a short text stands a NUL
                                        std::min<unsigned int>(kMailboxBytes, bytes.size()))
                     : 0;

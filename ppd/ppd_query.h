@@ -74,6 +74,8 @@ void GetCFStringEncodingFromPPD(ppd_file_t *ppd, unsigned int *out);
 /// @param encoding  a number of GetCFStringEncodingFromPPD(); any other is taken as UTF-8
 /// @return null for a null text
 QString decodePpdText(const char *text, unsigned int encoding);
+/// @return the decoded text of an option or choice; its keyword where that is empty
+QString labelOr(const char *text, unsigned int encoding, const char *keyword);
 
 // --- Numbers out of texts
 

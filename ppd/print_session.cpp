@@ -1,5 +1,6 @@
 #include "ppd/print_session.h"
 
+#include "platform/utf8.h"
 #include "ppd/unit_utils.h"
 
 #include <QStringDecoder>
@@ -86,13 +87,10 @@ PMStatus SetValueToSettingsWithTicketKeyAndLock(const char *value, PMPrintSettin
                                                 const QString &key, bool locked) {
     if (!value || !settings || key.isNull())
         return kPMInvalidParameter;
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless |
-                                                     QStringConverter::Flag::ConvertInitialBom);
-    QString text = decoder(QByteArrayView(value));
-    if (decoder.hasError())
+    const std::optional<QString> decoded = strictUtf8(value);
+    if (!decoded)
         return kPMOutOfMemory;
-    if (text.isNull())
-        text = QStringLiteral(""); // an empty value is stored, a null one refused
+    QString text = QStringLiteral("") + *decoded; // an empty value is stored, a null one refused
     text.replace(QChar(kFullwidthBrokenBar), u'|');
     return PMPrintSettingsSetValue(settings, key, text, locked);
 }

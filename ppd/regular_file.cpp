@@ -1,24 +1,19 @@
 #include "ppd/regular_file.h"
 
+#include "platform/file_content.h"
+
 #include <cerrno>
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-RegularFileStream::RegularFileStream(const char *path) : std::istream(nullptr), m_buffer(path) {
+RegularFileStream::RegularFileStream(const char *path)
+    : std::istream(nullptr), m_buffer(path, &m_reason) {
     if (m_buffer.isOpen())
         rdbuf(&m_buffer);
 }
 
-RegularFileStream::Buffer::Buffer(const char *path) {
-    m_descriptor = path ? ::open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC) : -1;
-    struct stat status;
-    if (m_descriptor >= 0 && (fstat(m_descriptor, &status) != 0 || !S_ISREG(status.st_mode))) {
-        ::close(m_descriptor);
-        m_descriptor = -1;
-    }
-}
+RegularFileStream::Buffer::Buffer(const char *path, QString *reason)
+    : m_descriptor(path ? openRegularFile(path, reason) : -1) {}
 
 RegularFileStream::Buffer::~Buffer() {
     if (m_descriptor >= 0)

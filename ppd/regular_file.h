@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <array>
 #include <istream>
 #include <streambuf>
@@ -11,10 +13,13 @@ public:
     /// @param path  null counts as unreadable
     explicit RegularFileStream(const char *path);
 
+    /// Why the file could not be opened, half a sentence; null for an open one and for a null path.
+    const QString &reason() const { return m_reason; }
+
 private:
     class Buffer : public std::streambuf {
     public:
-        explicit Buffer(const char *path);
+        Buffer(const char *path, QString *reason);
         ~Buffer() override;
         Buffer(const Buffer &) = delete;
         Buffer &operator=(const Buffer &) = delete;
@@ -24,8 +29,9 @@ private:
         int_type underflow() override;
 
     private:
-        int m_descriptor = -1;
+        int m_descriptor;
         std::array<char, 65536> m_bytes;
     };
+    QString m_reason;
     Buffer m_buffer;
 };

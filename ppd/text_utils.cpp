@@ -1,7 +1,7 @@
 #include "ppd/text_utils.h"
-#include "ppd/unit_utils.h"
 
-#include <QStringDecoder>
+#include "platform/utf8.h"
+#include "ppd/unit_utils.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -14,27 +14,6 @@ namespace {
 constexpr ushort kSpace = 0x20;
 constexpr ushort kIdeographicSpace = 0x3000;
 constexpr qsizetype kTextBufferBytes = 256;
-
-/// A decoder that takes a byte order mark for a character and a cut-off character for an error.
-QStringDecoder utf8Decoder() {
-    return QStringDecoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless |
-                                                    QStringConverter::Flag::ConvertInitialBom);
-}
-
-/// The text of UTF-8 bytes up to a NUL; a broken character at the end is dropped.
-QString textOfBytes(const QByteArray &bytes) {
-    qsizetype end = qstrnlen(bytes.constData(), bytes.size());
-    qsizetype lead = end;
-    while (lead > 0 && end - lead < 3 && (uchar(bytes[lead - 1]) & 0xC0) == 0x80)
-        --lead;
-    if (lead > 0) {
-        const uchar c = bytes[lead - 1];
-        const int length = c >= 0xF0 ? 4 : c >= 0xE0 ? 3 : c >= 0xC0 ? 2 : 1;
-        if (end - (lead - 1) < length)
-            end = lead - 1;
-    }
-    return QString::fromUtf8(bytes.constData(), end);
-}
 
 int unitWidth(QChar c) {
     return c.unicode() < 0x80 ? 1 : 2;
@@ -188,7 +167,7 @@ void getStringBySeparator(QStringList *array, const QString &text, char separato
             field += c;
             continue;
         }
-        array->append(textOfBytes(field));
+        array->append(wholeCharacters(field));
         field.clear();
     }
 }
@@ -211,7 +190,7 @@ void ReleaseCFString(QString *text) {
 }
 
 QString NSStringCreateWithCFString(const QString &text) {
-    return text.isNull() ? QString() : textOfBytes(text.toUtf8().left(kTextBufferBytes - 1));
+    return cutToBytes(text, kTextBufferBytes - 1);
 }
 
 // --- widths in display cells ---
@@ -224,12 +203,8 @@ int GetStringLength(const QString &text) {
 }
 
 int GetUTF8StringLength(const char *text) {
-    QStringDecoder decoder = utf8Decoder();
-    const QString units = decoder(QByteArrayView(text));
-    if (decoder.hasError())
-        return 0;
     int width = 0;
-    for (QChar c : units)
+    for (QChar c : strictUtf8(text).value_or(QString()))
         width += c.unicode() < 0x100 ? 1 : 2;
     return width;
 }

@@ -17,19 +17,6 @@ constexpr int kEnd = std::char_traits<char>::eof();
 /// Beyond the length of any name that a PPD holds, and of a PPD's lines.
 constexpr size_t kGreatestText = 1024;
 
-/// Opens nothing but tells why, where the stream has no word for it.
-QByteArray readablePath(const QString &path) {
-    const QFileInfo info(path);
-    if (!info.exists())
-        throw ToolError(path, QStringLiteral("No such file or directory"));
-    if (!info.isFile())
-        throw ToolError(path, info.isDir() ? QStringLiteral("is a directory")
-                                           : QStringLiteral("is not a regular file"));
-    if (info.size() == 0)
-        throw ToolError(path, QStringLiteral("is empty"));
-    return QFile::encodeName(path);
-}
-
 std::optional<uint16_t> number(const std::string &text) {
     uint16_t value = 0;
     const char *const end = text.data() + text.size();
@@ -44,10 +31,12 @@ bool beginsStamp(const std::string &line) {
 } // namespace
 
 CacheReader::CacheReader(const QString &path)
-    : m_file(readablePath(path).constData()),
+    : m_file(QFile::encodeName(path).constData()),
       m_fileSize(static_cast<uint64_t>(QFileInfo(path).size())) {
     if (!m_file)
-        throw ToolError(path, QStringLiteral("can't be read"));
+        throw ToolError(path, m_file.reason());
+    if (m_fileSize == 0)
+        throw ToolError(path, QStringLiteral("is empty"));
 }
 
 int CacheReader::take() {

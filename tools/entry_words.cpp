@@ -1,5 +1,6 @@
 #include "tools/entry_words.h"
 
+#include "platform/command_error.h"
 #include "ppd/conflicts.h"
 #include "ppd/ppd_query.h"
 
@@ -25,20 +26,10 @@ ForbiddingChoice choiceOfKey(ppd_file_t *ppd, std::string_view key) {
     return choice == end ? ForbiddingChoice{} : ForbiddingChoice{option, choice};
 }
 
-QString textOr(const QString &text, const char *keyword) {
-    return text.isEmpty() ? printable(keyword) : printable(text.toStdString());
-}
-
 } // namespace
 
 QString printable(std::string_view text) {
-    QString shown;
-    for (QChar c : QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())))
-        if (c.isPrint() || c.isSurrogate())
-            shown += c;
-        else
-            shown += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
-    return shown;
+    return ::printable(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 EntryWords::EntryWords(ppd_file_t *ppd) : m_ppd(ppd) {
@@ -48,8 +39,8 @@ EntryWords::EntryWords(ppd_file_t *ppd) : m_ppd(ppd) {
 
 QString EntryWords::label(const ppd_option_t &option, const ppd_choice_t &choice) const {
     return QStringLiteral("%1 \"%2\"")
-        .arg(textOr(decodePpdText(option.text, m_encoding), option.keyword),
-             textOr(decodePpdText(choice.text, m_encoding), choice.choice));
+        .arg(::printable(labelOr(option.text, m_encoding, option.keyword)),
+             ::printable(labelOr(choice.text, m_encoding, choice.choice)));
 }
 
 QString EntryWords::operator()(std::string_view key, x_constraints place) const {

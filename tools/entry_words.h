@@ -9,7 +9,7 @@
 
 namespace cdf {
 
-/// A file's text on a terminal: what isn't printable is shown as "\x1b".
+/// A file's bytes on a terminal, taken as UTF-8.
 QString printable(std::string_view text);
 
 /// Says what an entry of a constraint table means.

@@ -65,15 +65,6 @@ private:
     std::array<char, 65536> m_bytes;
 };
 
-void refuseToReplace(const QString &path, const QStringList &inputs) {
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
-        throw ToolError(path, QStringLiteral("is not a regular file"));
-    for (const QString &input : inputs)
-        if (isSameFile(path, input))
-            throw ToolError(path, QStringLiteral("is read by this command; name another file"));
-}
-
 uint64_t entriesFor(ppd_file_t *ppd, const std::list<std::string> &keys) {
     hash_multimap table;
     addConstraintsOf(ppd, &table, keys);
@@ -83,7 +74,9 @@ uint64_t entriesFor(ppd_file_t *ppd, const std::list<std::string> &keys) {
 } // namespace
 
 void writeCache(const CommandLine &line) {
-    refuseToReplace(line.cache, {line.ppd, line.keys});
+    if (const QString refusal = refusalToReplace(line.cache, {line.ppd, line.keys});
+        !refusal.isNull())
+        throw ToolError(line.cache, refusal);
     const PpdFile ppd = openPpd(line.ppd);
     std::list<std::string> keys = watchedKeys(line.keys);
     std::vector<std::string> names;

@@ -54,3 +54,17 @@ TEST_F(HelpViewer, KeepsWhatOthersPutIntoTheList) {
     EXPECT_EQ(text.indexOf("<string>test.help<"), text.lastIndexOf("<string>test.help<"));
     EXPECT_EQ(0, AHGotoPage("Book", {}, {}));
 }
+
+TEST_F(HelpViewer, LeavesAFileAloneThatIsNoList) {
+    folder.write("Resources/Help/index.htm", "x");
+    ASSERT_TRUE(list.open(QIODevice::ReadWrite));
+    list.write("somebody's notes");
+    list.close();
+    EXPECT_EQ(0, AHRegisterHelpBook(*bundle));
+    EXPECT_EQ(0, AHGotoPage("Book", {}, {})); // from memory
+    ASSERT_TRUE(list.open(QIODevice::ReadOnly));
+    EXPECT_EQ(list.readAll(), "somebody's notes");
+    list.remove();
+    EXPECT_EQ(0, AHRegisterHelpBook(*bundle)); // and written as soon as that is possible
+    EXPECT_TRUE(list.exists());
+}

@@ -54,6 +54,11 @@ TEST_F(EntryTest, LayoutTypeOutOfRangeIsTheFirst) {
         panel.setPDEType(type);
         EXPECT_EQ(panel.getPDEType(), kept);
     }
+    const PpdPtr noRow =
+        ppdWith("ColorBalance-MVO530"); // a form of the bundle, no product's layout
+    const auto unknown = panels(noRow.get());
+    ASSERT_EQ(unknown.size(), 1u);
+    EXPECT_EQ(dynamic_cast<ImageOptionsPDEk27 &>(*unknown[0]).getPDEType(), 0);
     panel.setPDEType(4);
     EXPECT_STREQ(panel.getPDENibFileNamePrintType(), "QZImageOptions_Sorvani00");
     for (int32_t row = 0; row < panel.getProductInfoCont(); ++row)

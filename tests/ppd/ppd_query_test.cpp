@@ -69,6 +69,9 @@ TEST_F(PpdQuery, TextsAndLists) {
     ASSERT_EQ(choices->size(), 5u);
     EXPECT_EQ((*choices)[3].choice(), &screen->choices[3]);
     EXPECT_EQ((*choices)[3].description(), "C4to8/C4to8 label");
+    ppd_choice_t umlaut{};
+    strcpy(umlaut.text, "\xC3\xBC"); // bytes of UTF-8, and still one character each
+    EXPECT_EQ(PDEChoiceKRVImageOptions(&umlaut).userTitle(), u"\u00C3\u00BC"_qs);
 
     const ChoiceRows rows{{"O", "a", "", ""}, {"O", "b", "", ""}, {"O", "b", "", ""}};
     EXPECT_EQ(FindPPDKeyPairsMatch(rows, "O", "b"), 1);

@@ -26,4 +26,7 @@ TEST(ProductType, OnlyAnExactPatternMatches) {
         EXPECT_EQ(checker->RunCheck(), type != -1);
         EXPECT_EQ(checker->productType, type);
     }
+    checker->productType = 4;
+    EXPECT_FALSE(checker->RunCheck()); // the last row's reports still match nothing
+    EXPECT_EQ(checker->productType, 4);
 }

@@ -71,6 +71,7 @@ TEST_F(ToolTest, BadInput) {
     write("cut.gz", head + kPpd);
     write("keys", "QZColorMode\nwith blank\n");
     mkfifo(folder.filePath("fifo").toLocal8Bit().constData(), 0600);
+    QFile::link("loop", folder.filePath("loop"));
     const QStringList before = files();
     QStringList elevenSections{"write", "a.ppd", "-o", "old.cdf"};
     for (int i = 0; i < 11; ++i)
@@ -102,6 +103,8 @@ TEST_F(ToolTest, BadInput) {
         {{"write", "a.ppd", "-o", "./a.ppd"}, "./a.ppd: is read by this command"},
         {{"write", "a.ppd", "-o", "fifo"}, "fifo: is not a regular file"},
         {{"write", "a.ppd", "-o", "no/out"}, "no/out: No such file or directory"},
+        {{"list", "loop"}, "loop: Too many levels of symbolic links"},
+        {{"list", "two  blanks\033[2J"}, "two  blanks\\x1b[2J: No such file or directory"},
         {{"list", "fifo"}, "fifo: is not a regular file"},
         {{"list", "old.cdf"}, "old.cdf: doesn't begin with the name of a section"},
         {{"check", "text.ppd", "--ppd", "a.ppd"}, "text.ppd: section hello, entry 1 breaks off"},

@@ -37,6 +37,14 @@ TEST(TextUtils, NumbersAndTheirTexts) {
     EXPECT_STREQ(itoa(0, buffer, 12), "");
     EXPECT_STREQ(itoa(-12, buffer, 12), "/.");
     EXPECT_STREQ(itoa(1230, buffer, 4), "230");
+    EXPECT_EQ(GetIntegerLength(INT_MIN), 11);
+    const std::pair<const char *, const char *> zeros[] = {
+        {"0070", "70"}, {"00", ""}, {"-0", "-0"}};
+    for (auto [text, rest] : zeros) {
+        strcpy(buffer, text);
+        filterHeadZero(buffer);
+        EXPECT_STREQ(buffer, rest);
+    }
     const std::pair<const char *, std::string> numbers[] = {
         {"/1/20/255", "\x01\x14\xFF"}, {"/256/257/65", {"\0\0A", 3}}, {"12/3", "12/3"}};
     for (const auto &[text, bytes] : numbers) {
@@ -82,6 +90,11 @@ TEST(TextUtils, WidthsFieldsCopiesAndOrder) {
         {"10", "9", 1}, {" -3x", -3, 0}, {2.9, 2, 0}, {"99999999999", INT_MAX, 0}, {0, "+1", -1}};
     for (const auto &[left, right, result] : rows)
         EXPECT_EQ(pageNumCompare({left, 7}, {right, 1}), result) << left.toString().toStdString();
+    EXPECT_EQ(pageNumCompareDict({{"a", 1}, {"b", 9}}, {{"a", "2"}}, "a"), -1);
+    EXPECT_EQ(pageNumCompareDict({{"a", 1}, {"b", 9}}, {{"a", "2"}}, "b"), 1);
+    QString released = "text";
+    ReleaseCFString(&released);
+    EXPECT_TRUE(released.isNull());
 }
 
 TEST(InputFilter, RangesByUnitAndByByte) {

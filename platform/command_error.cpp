@@ -1,0 +1,15 @@
+#include "platform/command_error.h"
+
+QString printable(const QString &text) {
+    QString shown;
+    for (QChar c : text)
+        if (c.isPrint() || c.isSurrogate())
+            shown += c;
+        else
+            shown += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+    return shown;
+}
+
+CommandError::CommandError(const QString &subject, const QString &reason)
+    : m_text(printable(subject) + QStringLiteral(": ") + printable(reason.simplified())),
+      m_utf8(m_text.toUtf8()) {}
