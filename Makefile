@@ -23,7 +23,7 @@ bench: setup
 	@mkdir -p build
 	cmake --preset release > build/release-configure.log 2>&1 || { cat build/release-configure.log; exit 1; }
 	cmake --build --preset release -j $(JOBS) --target panel_bench
-	QT_QPA_PLATFORM=offscreen build/release/bin/panel_bench --benchmark_min_time=0.1 --benchmark_repetitions=3 --benchmark_report_aggregates_only=true
+	QT_QPA_PLATFORM=offscreen build/release/bin/panel_bench --benchmark_min_time=0.1 --benchmark_repetitions=5 --benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true
 
 format:
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i

@@ -15,14 +15,14 @@ namespace {
 
 const char *const kMarks[] = {"Photo", "Auto"}; // of the image type, in turn
 
-PpdPtr openMarked(int64_t size) {
-    PpdPtr ppd(ppdOpenFile(generatedPpd(size).c_str()));
+PpdPtr openMarked(int64_t size, Rules rules) {
+    PpdPtr ppd(ppdOpenFile(generatedPpd(size, rules).c_str()));
     ppdMarkDefaults(ppd.get());
     return ppd;
 }
 
-void conflictRows(benchmark::State &state) {
-    const PpdPtr ppd = openMarked(state.range(0));
+void conflictRows(benchmark::State &state, Rules rules) {
+    const PpdPtr ppd = openMarked(state.range(0), rules);
     hash_multimap table(100);
     xSetxppd(ppd.get(), &table);
     size_t turn = 0;
@@ -36,8 +36,8 @@ void conflictRows(benchmark::State &state) {
     }
 }
 
-void libcupsConflicts(benchmark::State &state) {
-    const PpdPtr ppd = openMarked(state.range(0));
+void libcupsConflicts(benchmark::State &state, Rules rules) {
+    const PpdPtr ppd = openMarked(state.range(0), rules);
     size_t turn = 0;
     for (auto _ : state) {
         markChoice(ppd.get(), kPPDImageTypeKey, kMarks[turn++ % 2]);
@@ -54,9 +54,14 @@ void libcupsConflicts(benchmark::State &state) {
 }
 
 const int registered = [] {
+    const auto add = [](const char *name, auto function, Rules rules) {
+        return benchmark::RegisterBenchmark(name, function, rules);
+    };
     for (const int64_t size : kSizes) {
-        benchmark::RegisterBenchmark("conflict_rows", conflictRows)->Arg(size);
-        benchmark::RegisterBenchmark("cupsGetConflicts", libcupsConflicts)->Arg(size);
+        add("conflict_rows", conflictRows, Rules::Full)->Arg(size);
+        add("cupsGetConflicts", libcupsConflicts, Rules::Full)->Arg(size);
+        add("conflict_rows_wildcards", conflictRows, Rules::Wildcards)->Arg(size);
+        add("cupsGetConflicts_wildcards", libcupsConflicts, Rules::Wildcards)->Arg(size);
     }
     return 0;
 }();

@@ -3,6 +3,7 @@
 #include "generated_ppd.h"
 
 #include "host/bundle_loader.h"
+#include "host/cups_server.h"
 #include "host/panel_stage.h"
 #include "platform/cups_ppd.h"
 #include "platform/views/popup_view.h"
@@ -19,16 +20,38 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr char kImageType[] = "QZRGBImageType";
-const char *const kChoices[] = {"Photo", "Auto"};
+
+/// A list of the panel, and two choices that a person picks in turn.
+struct Event {
+    const char *outlet, *option, *choices[2];
+};
+const Event kImageType = {"ImageTypeList", "QZRGBImageType", {"Photo", "Auto"}};
+/// Its walks hide, show or disable most of the other controls.
+const Event kColorMode = {"ColorModeList", "QZColorMode", {"Black", "Color"}};
 
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
+PDEPlugin &plugin() {
+    return *host::loadBundle(QStringLiteral(BUNDLE_DIR));
+}
+
 host::PanelStage makeStage(int64_t size) {
-    return {host::openPpdFile(QString::fromStdString(generatedPpd(size))),
-            *host::loadBundle(QStringLiteral(BUNDLE_DIR))};
+    return {host::openPpdFile(QString::fromStdString(generatedPpd(size))), plugin()};
+}
+
+/// A queue with the generated PPD, on a loopback server that ends with this program.
+/// @return its name, null if there is none
+QString queueWith(int64_t size) {
+    static CupsDaemon server;
+    static const bool started = server.start();
+    if (!started)
+        return {};
+    qputenv("CUPS_SERVER", server.environment().first().section('=', 1).toUtf8());
+    const QString queue = QStringLiteral("Q%1").arg(size);
+    const QString ppd = QString::fromStdString(generatedPpd(size));
+    return server.addQueue(queue, ppd) ? queue : QString();
 }
 
 /// The first panel of a process loads module, fonts and styles; that isn't counted.
@@ -53,6 +76,50 @@ void panelOpen(benchmark::State &state) {
     }
 }
 
+/// The same on a queue of CUPS. @param withPpd  whether fetching and reading its PPD counts too
+void panelOpenOnQueue(benchmark::State &state, bool withPpd) {
+    warmUp();
+    const QString queue = queueWith(state.range(0));
+    if (queue.isNull())
+        return state.SkipWithError("the server takes no queue");
+    for (auto _ : state) {
+        auto start = Clock::now();
+        host::CupsServer server;
+        host::PanelStage stage(host::openQueue(server, queue), plugin());
+        if (!withPpd)
+            start = Clock::now();
+        if (!stage.open())
+            return state.SkipWithError("the queue has no panel");
+        QCoreApplication::processEvents();
+        state.SetIterationTime(secondsSince(start));
+    }
+}
+
+/// Counts what only a panel on the screen needs.
+class ScreenWork : public QObject {
+public:
+    ScreenWork() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override {
+        const QEvent::Type type = event->type();
+        count += type == QEvent::Show || type == QEvent::Paint || type == QEvent::LayoutRequest;
+        return false;
+    }
+    int count = 0;
+};
+
+/// @param seen  whether the panel is opened; the count is then of an opening
+void screenWork(benchmark::State &state, bool seen) {
+    for (auto _ : state) {
+        host::PanelStage stage = makeStage(state.range(0));
+        const ScreenWork work;
+        if (!seen)
+            stage.session().printUnseen();
+        else if (stage.open())
+            QCoreApplication::processEvents();
+        state.counters["amount"] = work.count;
+    }
+}
+
 void unseenShouldPrint(benchmark::State &state) {
     warmUp();
     for (auto _ : state) {
@@ -64,14 +131,14 @@ void unseenShouldPrint(benchmark::State &state) {
 }
 
 /// The choice of an item: host told, marks, walks, all menus as they are then, painted.
-void userEvent(benchmark::State &state) {
+void userEvent(benchmark::State &state, const Event &event) {
     host::PanelStage stage = makeStage(state.range(0));
     stage.open();
     QCoreApplication::processEvents();
-    auto *list = stage.window()->findChild<PopupView *>("ImageTypeList");
+    auto *list = stage.window()->findChild<PopupView *>(event.outlet);
     size_t turn = 0;
     for (auto _ : state) {
-        const QString choice = QString::fromUtf8(kChoices[turn++ % 2]);
+        const QString choice = QString::fromUtf8(event.choices[turn++ % 2]);
         int item = 0;
         while (item < list->numberOfItems() && list->itemRepresentedObject(item) != choice)
             ++item;
@@ -79,25 +146,23 @@ void userEvent(benchmark::State &state) {
             return state.SkipWithError("the item can't be chosen");
         QCoreApplication::processEvents();
     }
+    const char *last = event.choices[(turn - 1) % 2];
+    if (!ppdIsMarked(stage.source().ppd.get(), event.option, last))
+        state.SkipWithError("the choice isn't marked");
 }
 
-void libcupsMark(benchmark::State &state) {
+void libcupsMark(benchmark::State &state, const Event &event) {
     const PpdPtr ppd(ppdOpenFile(generatedPpd(state.range(0)).c_str()));
     ppdMarkDefaults(ppd.get());
     size_t turn = 0;
     for (auto _ : state)
-        ppdMarkOption(ppd.get(), kImageType, kChoices[turn++ % 2]);
+        ppdMarkOption(ppd.get(), event.option, event.choices[turn++ % 2]);
 }
 
-/// Qt's own dialog on a queue of a loopback server with the same PPD; the first one isn't counted.
+/// Qt's own dialog on a queue with the same PPD; the first one isn't counted.
 void qtDialog(benchmark::State &state) {
-    static CupsDaemon server;
-    static const bool started = server.start();
-    if (!started)
-        return state.SkipWithError("there is no cupsd");
-    qputenv("CUPS_SERVER", server.environment().first().section('=', 1).toUtf8());
-    const QString queue = QStringLiteral("Q%1").arg(state.range(0));
-    if (!server.addQueue(queue, QString::fromStdString(generatedPpd(state.range(0)))))
+    const QString queue = queueWith(state.range(0));
+    if (queue.isNull())
         return state.SkipWithError("the server takes no queue");
     bool first = true;
     const auto show = [&] {
@@ -120,19 +185,24 @@ void qtDialog(benchmark::State &state) {
 }
 
 const int registered = [] {
+    const auto add = [](const char *name, int64_t size, auto... what) {
+        return benchmark::RegisterBenchmark(name, what...)->Arg(size);
+    };
     for (const int64_t size : kSizes) {
-        benchmark::RegisterBenchmark("panel_open", panelOpen)->Arg(size)->UseManualTime();
-        benchmark::RegisterBenchmark("unseen_should_print", unseenShouldPrint)
-            ->Arg(size)
-            ->UseManualTime();
-        benchmark::RegisterBenchmark("user_event", userEvent)->Arg(size);
-        benchmark::RegisterBenchmark("ppdMarkOption", libcupsMark)->Arg(size);
+        add("panel_open", size, panelOpen)->UseManualTime();
+        add("unseen_should_print", size, unseenShouldPrint)->UseManualTime();
+        add("user_event", size, userEvent, kImageType);
+        add("ppdMarkOption", size, libcupsMark, kImageType);
+        add("color_mode_event", size, userEvent, kColorMode);
+        add("ppdMarkOption_color_mode", size, libcupsMark, kColorMode);
     }
-    for (const int64_t size : {100, 10000})
-        benchmark::RegisterBenchmark("QPrintDialog", qtDialog)
-            ->Arg(size)
-            ->UseManualTime()
-            ->Iterations(5);
+    for (const int64_t size : {100, 10000}) {
+        add("QPrintDialog", size, qtDialog)->UseManualTime()->Iterations(5);
+        add("queue_open", size, panelOpenOnQueue, false)->UseManualTime()->Iterations(5);
+        add("queue_open_with_ppd", size, panelOpenOnQueue, true)->UseManualTime()->Iterations(5);
+    }
+    add("screen_work", 100, screenWork, true)->Iterations(1);
+    add("unseen_screen_work", 100, screenWork, false)->Iterations(1);
     return 0;
 }();
 

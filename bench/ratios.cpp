@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include <unistd.h>
+
 namespace {
 
 /// One measure: a cost by another cost, or by a number, and what it is to reach.
@@ -27,13 +29,25 @@ constexpr Ratio kRatios[] = {
     {"conflict_rows/1000", "conflict_rows/1000", "cupsGetConflicts/1000", 1.0 / 100},
     {"conflict_rows/10000", "conflict_rows/10000", "cupsGetConflicts/10000", 1.0 / 300},
     {"conflict_rows/100000", "conflict_rows/100000", "cupsGetConflicts/100000", 1.0 / 300},
+    {"conflict_rows_wildcards/1000", "conflict_rows_wildcards/1000", "cupsGetConflicts_wildcards/1000", 1.0 / 100},
+    {"conflict_rows_wildcards/10000", "conflict_rows_wildcards/10000", "cupsGetConflicts_wildcards/10000", 1.0 / 300},
+    {"conflict_rows_wildcards/100000", "conflict_rows_wildcards/100000", "cupsGetConflicts_wildcards/100000", 1.0 / 300},
     {"user_event_in_2_ms", "user_event/100000", "2 ms", 1},
     {"user_event_growth", "user_event/100000", "user_event/100", 1.5},
     {"user_event/10000", "user_event/10000", "ppdMarkOption/10000", 1},
     {"user_event/100000", "user_event/100000", "ppdMarkOption/100000", 1},
-    {"panel_open/100", "panel_open/100", "QPrintDialog/100", 3},
-    {"panel_open/10000", "panel_open/10000", "QPrintDialog/10000", 1},
+    {"color_mode_event_in_2_ms", "color_mode_event/100000", "2 ms", 1},
+    {"color_mode_event_growth", "color_mode_event/100000", "color_mode_event/100", 1.5},
+    {"color_mode_event/10000", "color_mode_event/10000", "ppdMarkOption_color_mode/10000", 1},
+    {"color_mode_event/100000", "color_mode_event/100000", "ppdMarkOption_color_mode/100000", 1},
+    {"panel_open/100", "queue_open/100", "QPrintDialog/100", 3},
+    {"panel_open/10000", "queue_open/10000", "QPrintDialog/10000", 1},
+    {"panel_open_with_ppd/10000", "queue_open_with_ppd/10000", "QPrintDialog/10000", 1},
+    {"unseen_should_print/100", "unseen_should_print/100", "panel_open/100", 1},
     {"unseen_should_print/10000", "unseen_should_print/10000", "panel_open/10000", 1},
+    {"unseen_screen_work", "unseen_screen_work/100", "screen_work/100", 0},
+    {"table_memory/100", "table_memory/100", "ppd_memory/100", 1},
+    {"table_memory/1000", "table_memory/1000", "ppd_memory/1000", 1},
     {"table_memory/10000", "table_memory/10000", "ppd_memory/10000", 1},
     {"table_memory/100000", "table_memory/100000", "ppd_memory/100000", 1},
     {"all_wildcards_time", "all_wildcards/0", "ppdOpenFile_all_wildcards/0", 1},
@@ -41,7 +55,8 @@ constexpr Ratio kRatios[] = {
 };
 constexpr const char *kGrowing[] = {
     "ppdOpenFile", "table_from_ppd", "table_from_wildcards", "table_from_cache", "conflict_rows",
-    "cupsGetConflicts", "user_event", "panel_open", "unseen_should_print",
+    "conflict_rows_wildcards", "cupsGetConflicts", "user_event", "color_mode_event", "ppdMarkOption",
+    "panel_open", "unseen_should_print", "table_memory", "ppd_memory",
 };
 // clang-format on
 
@@ -55,14 +70,16 @@ std::string plainName(const std::string &name) {
 
 } // namespace
 
+RatioReporter::RatioReporter() : ConsoleReporter(isatty(STDOUT_FILENO) ? OO_Defaults : OO_None) {}
+
 void RatioReporter::ReportRuns(const std::vector<Run> &runs) {
     ConsoleReporter::ReportRuns(runs);
     for (const Run &run : runs)
         if (!run.error_occurred && (run.aggregate_name == "median" || run.repetitions <= 1)) {
-            const auto bytes = run.counters.find("bytes");
+            const auto amount = run.counters.find("amount");
             m_cost[plainName(run.run_name.str())] =
-                bytes != run.counters.end()
-                    ? bytes->second.value
+                amount != run.counters.end()
+                    ? amount->second.value
                     : run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
         }
 }

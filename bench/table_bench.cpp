@@ -64,7 +64,7 @@ void ppdMemory(benchmark::State &state, Path path) {
     for (auto _ : state) {
         const size_t before = bytesInUse();
         const PpdPtr ppd(ppdOpenFile(file.c_str()));
-        state.counters["bytes"] = double(bytesInUse() - before);
+        state.counters["amount"] = double(bytesInUse() - before);
     }
 }
 
@@ -74,7 +74,7 @@ void tableMemory(benchmark::State &state, Path path) {
         const size_t before = bytesInUse();
         hash_multimap table(100);
         xSetxppd(ppd.get(), &table);
-        state.counters["bytes"] = double(bytesInUse() - before);
+        state.counters["amount"] = double(bytesInUse() - before);
     }
 }
 

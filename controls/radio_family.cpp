@@ -134,10 +134,8 @@ int32_t RadioButtonKRVImageOptions::Update() {
     const int32_t current = RadioGrpPtr ? RadioGrpPtr->GetcurRadio() : -1;
     if (current == GetRadioIndex())
         return 0;
-    int32_t version = 0;
-    Gestalt_ALT(kSelectorSysv, &version);
     // Where views may be exclusive, one that is off already still has its constraints to release.
-    if (version < kSystemVersion1080 && shownValue().value_or(0) == 0)
+    if (systemVersion() < kSystemVersion1080 && shownValue().value_or(0) == 0)
         return 0;
     showValue(0);
     SimulationUIEventHandler();

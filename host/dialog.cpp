@@ -128,10 +128,7 @@ void PrintDialog::printDocument() {
         if (target.isEmpty())
             return;
     }
-    if (m_hasPanel) {
-        m_stage.session().shouldPrint();
-        m_stage.session().save();
-    }
+    m_stage.session().print();
     if (m_isQueue) {
         sendToCups(m_stage, document);
     } else {

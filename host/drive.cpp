@@ -271,14 +271,8 @@ QJsonObject Driver::print(const QJsonObject &command) {
     const Document document = readDocument(source);
     Outputs outputs({document.path, m_stage.source().path});
     PanelSession &session = m_stage.session();
-    QVariantMap summary;
-    if (session.isOpen()) {
-        summary = session.summary();
-        session.shouldPrint();
-        session.save();
-    } else if (session.hasPanel()) {
-        session.printUnseen();
-    }
+    const QVariantMap summary = session.isOpen() ? session.summary() : QVariantMap();
+    session.print();
     outputs.add(to, psJob(m_stage, document));
     if (const QString ticket = command[QStringLiteral("ticket")].toString(); !ticket.isEmpty())
         outputs.add(ticket, jsonText(ticketJson(m_stage.callback().settings())));

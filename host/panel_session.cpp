@@ -1,17 +1,15 @@
 #include "host/panel_session.h"
 
+#include <utility>
+
 namespace host {
-namespace {
-
-/// The type of panels that a print dialog asks for.
-const QString kPanelType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
-
-} // namespace
 
 PanelSession::PanelSession(PDEPlugin &plugin, const std::shared_ptr<HostCallback> &host) {
-    std::vector<std::unique_ptr<PDEPanel>> panels = plugin.PDEPanelsForType(kPanelType, host);
+    std::vector<std::unique_ptr<PDEPanel>> panels =
+        plugin.PDEPanelsForType(QLatin1String(kPrintPanelType), host);
     if (!panels.empty())
         m_panel = std::move(panels.front());
+    m_hadPanel = m_panel != nullptr;
 }
 
 PanelSession::~PanelSession() {
@@ -34,6 +32,21 @@ void PanelSession::show() {
 void PanelSession::printUnseen() {
     m_keys = m_panel->supportedPPDOptionKeys();
     m_panel->shouldPrint();
+    close();
+}
+
+void PanelSession::noteUserAct() {
+    m_unsaved = true;
+    m_actedSincePrint = m_printed;
+}
+
+void PanelSession::print() {
+    if (m_open) {
+        shouldPrint();
+        save();
+    } else if (m_panel) {
+        printUnseen();
+    }
 }
 
 void PanelSession::leavePage() {
@@ -52,11 +65,15 @@ bool PanelSession::restore() {
 }
 
 bool PanelSession::shouldPrint() {
+    m_printed = true;
+    m_actedSincePrint = false;
     return m_panel->shouldPrint();
 }
 
 bool PanelSession::save() {
-    m_unsaved = false;
+    if (std::exchange(m_actedSincePrint, false)) // the save behind a shouldPrint writes nothing
+        m_panel->saveValuesAndReturnError(nullptr);
+    m_unsaved = m_printed = false;
     return m_panel->saveValuesAndReturnError(nullptr);
 }
 
@@ -80,7 +97,7 @@ void PanelSession::close() {
         m_panel->shouldHide();
     m_panel->terminate();
     m_panel.reset();
-    m_open = false;
+    m_open = m_unsaved = m_printed = m_actedSincePrint = false;
 }
 
 } // namespace host

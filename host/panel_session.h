@@ -22,13 +22,15 @@ inline constexpr char kSummaryOrderKey[] = "Summary Display Order";
 /// panel runs modally.
 class PanelSession {
 public:
-    /// Asks the bundle for the panel. @param host  outlives nothing: the panel retains it
+    /// Asks the bundle for the panel. @param host  retained by the panel
     PanelSession(PDEPlugin &plugin, const std::shared_ptr<HostCallback> &host);
     /// Closes the panel if it wasn't.
     ~PanelSession();
 
     bool hasPanel() const { return m_panel != nullptr; }
     bool isOpen() const { return m_open; }
+    /// Whether there was a panel, and is no more.
+    bool hasEnded() const { return m_hadPanel && !m_panel; }
 
     /// The first half of the road of a shown panel, panelKind to panelView.
     /// @return the view, owned by the panel until it gets a parent; null without a layout
@@ -36,15 +38,18 @@ public:
     /// The second half, restoreValuesAndReturnError and willShow. The view should stand in its
     /// window by now.
     void show();
-    /// The whole road of a panel that is never shown, up to shouldPrint.
+    /// The whole road of a panel that is never shown: shouldPrint, and its end.
     void printUnseen();
+    /// Readies marks and settings for a job: of an open panel by shouldPrint and save, of one that
+    /// isn't shown by printUnseen(). Without a panel there is nothing to do.
+    void print();
 
     const QString &kind() const { return m_kind; }
     const QString &name() const { return m_name; }
     const QStringList &keys() const { return m_keys; }
 
     /// To be told before each act of the user on the panel's views.
-    void noteUserAct() { m_unsaved = true; }
+    void noteUserAct();
     /// The user goes to another page: values reach marks and settings.
     void leavePage();
     void willShow();
@@ -63,8 +68,11 @@ private:
     std::unique_ptr<PDEPanel> m_panel;
     QString m_kind, m_name;
     QStringList m_keys;
+    bool m_hadPanel = false;
     bool m_open = false;
     bool m_unsaved = false;
+    bool m_printed = false;         ///< a shouldPrint waits for its save
+    bool m_actedSincePrint = false; ///< the user has acted in between
 };
 
 } // namespace host

@@ -42,7 +42,7 @@ PanelStage::~PanelStage() {
 }
 
 PanelSession &PanelStage::session() {
-    if (!m_session)
+    if (!m_session || m_session->hasEnded())
         m_session = std::make_unique<PanelSession>(m_plugin, m_callback);
     return *m_session;
 }

@@ -30,12 +30,7 @@ void drivePanel(const CommandLine &line, PanelStage &stage, Outputs &outputs) {
     if (!line.summary.isNull())
         outputs.add(line.summary,
                     jsonText(summaryJson(open ? stage.session().summary() : QVariantMap())));
-    if (open) {
-        stage.session().shouldPrint();
-        stage.session().save();
-    } else if (stage.session().hasPanel()) { // a panel without a view prints all the same
-        stage.session().printUnseen();
-    }
+    stage.session().print(); // a panel without a view prints all the same
 }
 
 /// The file to write, or null for a job that goes to CUPS.

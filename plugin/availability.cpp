@@ -17,6 +17,7 @@ namespace {
 
 /// The stored print type of a job that is saved to a mailbox.
 constexpr int kPrintTypeMailbox = 5;
+constexpr qsizetype kSettingBytes = 255; ///< of a setting's text
 
 /// A control's committed value is 1; true while it has none.
 bool isOn(BaseControlKRVImageOptions *control) {
@@ -92,5 +93,5 @@ bool ImageOptionsPDEk27::IsJobTypeMailbox() const {
     } else if (m_pSettings) {
         PMPrintSettingsGetValue(m_pSettings, key, &value);
     }
-    return leadingInteger(value) == kPrintTypeMailbox;
+    return leadingInteger(value.toUtf8().left(kSettingBytes).constData()) == kPrintTypeMailbox;
 }

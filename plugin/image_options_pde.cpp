@@ -41,7 +41,8 @@ void ImageOptionsPDEk27::loadLayout() {
     if (!ImageOptionsView)
         qCWarning(panelLog, "%s: %s", qUtf8Printable(layout), qUtf8Printable(error));
     else if (fCtrlGroupArray)
-        bFirstInitialzePDE = true; // the host destroyed the former view: build the controls anew
+        bFirstInitialzePDE =
+            true; // controls without their views, or of a view that the host destroyed
 }
 
 QWidget *ImageOptionsPDEk27::panelView() {
@@ -117,7 +118,7 @@ void ImageOptionsPDEk27::resolveAgain(ppd_file_t *ppd) {
     takeLocalizeTable(ppd);
     m_records = MainPanelRecords{};
     releaseHolds();
-    bindControls(pluginBundle.get(), ppd);
+    InitializeUserPane(pluginBundle.get(), ppd);
     SetUIDataToIniData();
     m_boundPPD = ppd;
 }

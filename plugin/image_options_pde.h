@@ -44,7 +44,7 @@ class VersionStringSTextKRVImageOptions;
 class ImageOptionsPDEk27 : public BasePrintPanelKRVImageOptions, public PDEPanel {
 public:
     ImageOptionsPDEk27();
-    /// Gives up the view if the host hasn't, then the controls.
+    /// Gives up the controls, then the view if the host hasn't taken it.
     ~ImageOptionsPDEk27() override;
 
     // What the host calls; see PDEPanel.
@@ -138,9 +138,6 @@ private:
     void addImageAdjustmentWindow(const Bundle *bundle, ppd_file_t *ppd);
     template <class Text>
     void addText(Text *&field, TextView *view, const char *key);
-    /// Initialises all controls for a PPD and works out the product type.
-    /// @return 0, 1 without a fitting type, or the base class's failure
-    int32_t bindControls(const Bundle *bundle, ppd_file_t *ppd);
     /// A new constraint table for a PPD, from its cache file or its constraints.
     void buildConstraintTable(ppd_file_t *ppd);
     /// The host has changed the PPD: options, choices, table and product type anew.

@@ -7,7 +7,6 @@
 
 namespace {
 
-const QString kPluginType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
 const QString kLayoutPrefix = QStringLiteral("QZImageOptions_");
 const QString kHelpPrefix = QStringLiteral("Graphics_");
 
@@ -29,7 +28,7 @@ std::vector<std::unique_ptr<PDEPanel>>
 ImageOptionsPDEPlugink27::PDEPanelsForType(const QString &type,
                                            const std::shared_ptr<PDEPluginCallback> &host) {
     std::vector<std::unique_ptr<PDEPanel>> panels;
-    if (type != kPluginType || !host)
+    if (type != QLatin1String(kPrintPanelType) || !host)
         return panels;
     ppd_file_t *ppd = host->ppdFile();
     if (!ppd)

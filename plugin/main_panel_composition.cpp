@@ -191,10 +191,6 @@ void ImageOptionsPDEk27::addImageAdjustmentWindow(const Bundle *bundle, ppd_file
 }
 
 int32_t ImageOptionsPDEk27::InitializeUserPane(const Bundle *bundle, ppd_file_t *ppd) {
-    return bindControls(bundle, ppd);
-}
-
-int32_t ImageOptionsPDEk27::bindControls(const Bundle *bundle, ppd_file_t *ppd) {
     addImageAdjustmentWindow(bundle, ppd);
     CPPDChecker::Instance()->Init();
     if (const int32_t status = BasePrintPanelKRVImageOptions::InitializeUserPane(bundle, ppd))

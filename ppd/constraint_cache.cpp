@@ -44,14 +44,20 @@ uint16_t indexOf(std::string_view field) {
     return field.empty() ? 0 : static_cast<uint16_t>(std::strtol(field.data(), nullptr, 10));
 }
 
+/// The entries of one key mostly stand together, so that the key isn't looked up for each.
 void readEntries(const std::string &line, hash_multimap &table) {
+    std::string_view before;
+    hash_multimap::KeyList keys{};
     for (size_t position = 0; position < line.size();) {
         std::string_view key, group, option, choice;
         if (!takeField(line, position, key) || !takeField(line, position, group) ||
             !takeField(line, position, option) || !takeField(line, position, choice))
             return;
-        if (!key.empty())
-            table.insert(key, {indexOf(group), indexOf(option), indexOf(choice)});
+        if (key.empty())
+            continue;
+        if (key != before)
+            keys = table.keyList(before = key);
+        table.insert(keys, {indexOf(group), indexOf(option), indexOf(choice)});
     }
 }
 
@@ -70,15 +76,14 @@ std::shared_ptr<hash_multimap> makeConstraintTable(ppd_file_t *ppd) {
 
 int32_t GetXPPD(ppd_file_t *ppd, hash_multimap *table, const QString &sectionBase,
                 const QString &attribute) {
-    int32_t version = 0;
-    Gestalt_ALT(kSelectorSysv, &version);
     const QByteArray base = sectionBase.toUtf8();
     const QByteArray name = attribute.toUtf8();
     if (!ppd || !table || base.size() > kMaxNameBytes || name.size() > kMaxNameBytes)
         return 1;
     const ppd_attr_t *path = ppdFindAttr_ALT(ppd, name.constData(), nullptr);
     std::string section =
-        base.toStdString() + ((version & kVersionMask) == kPantherVersion ? "Panther" : "Tiger");
+        base.toStdString() +
+        ((systemVersion() & kVersionMask) == kPantherVersion ? "Panther" : "Tiger");
     CQuickXPPD cache(table, &section);
     RegularFileStream file(path ? path->value : nullptr);
     if (!file)

@@ -34,12 +34,15 @@ class Flattener {
     };
     /// One spelling of an option in the constraints.
     struct Spelling {
-        SameName *same = nullptr; ///< null when the PPD has no such option
-        bool watched = false;
+        Spelling(SameName *options, bool isWatched) : same(options), watched(isWatched) {}
+
+        SameName *same; ///< null when the PPD has no such option
+        bool watched;
+        FlatIndex<hash_multimap::KeyList> keys; ///< by the spelling of a choice
     };
 
 public:
-    using Form = void (Flattener::*)(const ppd_const_t &, SameName *);
+    using Form = void (Flattener::*)(const ppd_const_t &, SameName *, Spelling &);
 
     Flattener(const ppd_file_t &ppd, hash_multimap &table) : m_table(table) {
         for (int g = 0; g < ppd.num_groups; ++g)
@@ -54,38 +57,37 @@ public:
 
     /// Adds the constraint if one of its options is watched.
     void addWatched(const ppd_const_t &constraint, const std::list<std::string> &watched) {
-        const Spelling first = spelling(constraint.option1, watched);
-        if (first.watched || spelling(constraint.option2, watched).watched)
-            add(constraint, first.same);
+        const Spelling &first = spelling(constraint.option1, watched);
+        Spelling &second = spelling(constraint.option2, watched);
+        if (first.watched || second.watched)
+            add(constraint, first.same, second);
     }
     void add(const ppd_const_t &constraint, Form form) {
-        (this->*form)(constraint, find(constraint.option1));
+        (this->*form)(constraint, find(constraint.option1), spelling(constraint.option2, {}));
     }
 
-    // The forms, given the options that match option1, or null.
+    // The forms, given the options that match option1, or null, and what option2 names.
 
-    void addO1C1O2C2(const ppd_const_t &constraint, SameName *forbids) {
+    void addO1C1O2C2(const ppd_const_t &constraint, SameName *forbids, Spelling &forbidden) {
         if (const x_constraints *hit = find(forbids, constraint.choice1))
-            m_table.insert(key(constraint.option2, constraint.choice2), *hit);
+            m_table.insert(keyOf(constraint, forbidden), *hit);
     }
 
-    void addO1C1O2(const ppd_const_t &constraint, SameName *forbids) {
+    void addO1C1O2(const ppd_const_t &constraint, SameName *forbids, Spelling &forbidden) {
         const x_constraints *hit = find(forbids, constraint.choice1);
-        SameName *forbidden = find(constraint.option2);
-        if (hit && forbidden)
-            m_table.insert(keys(forbidden->firstKeys, std::span(forbidden->places).first(1)), *hit);
+        if (SameName *same = forbidden.same; hit && same)
+            m_table.insert(keys(same->firstKeys, std::span(same->places).first(1)), *hit);
     }
 
-    void addO1O2C2(const ppd_const_t &constraint, SameName *forbids) {
+    void addO1O2C2(const ppd_const_t &constraint, SameName *forbids, Spelling &forbidden) {
         if (forbids)
-            m_table.insert(m_table.keyList(key(constraint.option2, constraint.choice2)),
+            m_table.insert(keyOf(constraint, forbidden),
                            values(forbids->firstValues, std::span(forbids->places).first(1)));
     }
 
-    void addO1O2(const ppd_const_t &constraint, SameName *forbids) {
-        SameName *forbidden = find(constraint.option2);
-        if (forbids && forbidden)
-            m_table.insert(keys(forbidden->allKeys, forbidden->places),
+    void addO1O2(const ppd_const_t &, SameName *forbids, Spelling &forbidden) {
+        if (SameName *same = forbidden.same; forbids && same)
+            m_table.insert(keys(same->allKeys, same->places),
                            values(forbids->allValues, forbids->places));
     }
 
@@ -95,12 +97,13 @@ private:
                 static_cast<uint16_t>(choice)};
     }
 
-    void add(const ppd_const_t &constraint, SameName *forbids) {
+    void add(const ppd_const_t &constraint, SameName *forbids, Spelling &forbidden) {
         if (constraint.choice1[0])
-            constraint.choice2[0] ? addO1C1O2C2(constraint, forbids)
-                                  : addO1C1O2(constraint, forbids);
+            constraint.choice2[0] ? addO1C1O2C2(constraint, forbids, forbidden)
+                                  : addO1C1O2(constraint, forbids, forbidden);
         else
-            constraint.choice2[0] ? addO1O2C2(constraint, forbids) : addO1O2(constraint, forbids);
+            constraint.choice2[0] ? addO1O2C2(constraint, forbids, forbidden)
+                                  : addO1O2(constraint, forbids, forbidden);
     }
 
     SameName &sameName(const char *option) {
@@ -115,16 +118,22 @@ private:
     static const x_constraints *find(const SameName *same, const char *choice) {
         return same ? same->choices.find(choice) : nullptr;
     }
-    Spelling spelling(const char *option, const std::list<std::string> &watched) {
-        if (const Spelling *found = m_spellings.find(option))
-            return *found;
+    Spelling &spelling(const char *option, const std::list<std::string> &watched) {
+        if (Spelling *const *found = m_spellings.find(option))
+            return **found;
         const bool isWatched = std::ranges::find(watched, option) != watched.end();
-        return m_spellings.insert(option, {find(option), isWatched});
+        return *m_spellings.insert(option, &m_spellingStore.emplace_back(find(option), isWatched));
     }
 
-    const std::string &key(const char *option, const char *choice) {
-        m_key.assign(option).append(1, ':').append(choice);
-        return m_key;
+    static std::string key(const char *option, const char *choice) {
+        return std::string(option).append(1, ':').append(choice);
+    }
+    /// The key of the constraint's second half, found without making its text anew.
+    hash_multimap::KeyList keyOf(const ppd_const_t &constraint, Spelling &option2) {
+        if (const hash_multimap::KeyList *found = option2.keys.find(constraint.choice2))
+            return *found;
+        return option2.keys.insert(constraint.choice2,
+                                   m_table.keyList(key(constraint.option2, constraint.choice2)));
     }
 
     template <typename Visit>
@@ -160,8 +169,8 @@ private:
     hash_multimap &m_table;
     std::deque<SameName> m_sameNames; ///< a deque, since they are pointed to
     FlatIndex<SameName *, FoldedText> m_options;
-    FlatIndex<Spelling> m_spellings;
-    std::string m_key; ///< reused
+    std::deque<Spelling> m_spellingStore;
+    FlatIndex<Spelling *> m_spellings;
 };
 
 void addOne(ppd_file_t *ppd, hash_multimap *table, int constraint, Flattener::Form form) {

@@ -70,15 +70,30 @@ private:
         bool used = false;
     };
 
-    /// Eight bytes at a time.
+    template <typename Word>
+    static uint64_t load(const char *at) {
+        Word word;
+        std::memcpy(&word, at, sizeof word);
+        return word;
+    }
+    /// Eight bytes at a time; the last ones may overlap those before.
     static size_t hashOf(std::string_view text) {
-        uint64_t h = text.size();
-        for (size_t i = 0; i < text.size(); i += sizeof h) {
-            uint64_t word = 0;
-            std::memcpy(&word, text.data() + i, std::min(text.size() - i, sizeof word));
+        const size_t size = text.size();
+        const char *const end = text.data() + size;
+        uint64_t h = size;
+        const auto mix = [&h](uint64_t word) {
             h = (h ^ (word | Text::kIgnoredBits)) * 0x9E3779B97F4A7C15u;
             h ^= h >> 32;
-        }
+        };
+        for (const char *at = text.data(); end - at > 8; at += 8)
+            mix(load<uint64_t>(at));
+        if (size >= 8)
+            mix(load<uint64_t>(end - 8));
+        else if (size >= 4)
+            mix(load<uint32_t>(end - size) | load<uint32_t>(end - 4) << 32);
+        else if (size > 0)
+            mix(load<uint8_t>(end - size) | load<uint8_t>(end - size + size / 2) << 8 |
+                load<uint8_t>(end - 1) << 16);
         return h;
     }
     /// Where the key is, or the free slot where it belongs.

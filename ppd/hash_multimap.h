@@ -100,25 +100,35 @@ public:
 private:
     static constexpr uint32_t kNone = UINT32_MAX;
 
-    /// Items of a set in any order: few, or at most about twice as many as are distinct.
+    /// Items of a set, each once, in the order of their first coming; found by open addressing.
     template <typename T>
     struct Distinct {
         std::vector<T> items;
-        size_t sorted = 0; ///< so many items at the begin are in order, each once
-        size_t limit = 256;
+        std::vector<uint32_t> numbers; ///< of items from 1, 0 where free; a power of two
 
         void add(const T &item) {
-            if (!items.empty() && items.back() == item)
-                return;
-            if (std::binary_search(items.begin(), items.begin() + sorted, item))
-                return;
-            if (items.size() >= limit) {
-                std::ranges::sort(items);
-                items.erase(std::unique(items.begin(), items.end()), items.end());
-                sorted = items.size();
-                limit = std::max(limit, 2 * items.size());
+            if (2 * (items.size() + 1) > numbers.size())
+                grow();
+            uint32_t &number = numberOf(item);
+            if (number == 0) {
+                items.push_back(item);
+                number = static_cast<uint32_t>(items.size());
             }
-            items.push_back(item);
+        }
+        void grow() {
+            numbers.assign(std::max<size_t>(8, 2 * numbers.size()), 0);
+            for (size_t i = 0; i < items.size(); ++i)
+                numberOf(items[i]) = static_cast<uint32_t>(i + 1);
+        }
+        uint32_t &numberOf(const T &item) {
+            size_t i = packed(item) * 0x9E3779B97F4A7C15u >> 32;
+            while (numbers[i &= numbers.size() - 1] != 0 && items[numbers[i] - 1] != item)
+                ++i;
+            return numbers[i];
+        }
+        static uint64_t packed(uint32_t list) { return list; }
+        static uint64_t packed(const x_constraints &at) {
+            return uint64_t{at.groupIndex} << 32 | uint64_t{at.optionIndex} << 16 | at.choiceIndex;
         }
     };
     /// A list of keys, and all that was inserted for it.

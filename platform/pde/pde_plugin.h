@@ -9,6 +9,9 @@
 #include <memory>
 #include <vector>
 
+/// The plug-in type of panels for one print job.
+inline constexpr char kPrintPanelType[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
+
 /// The entry object of a bundle: a Qt plug-in `lib<name>.so` in the bundle's directory.
 ///
 /// The host loads the plug-in with QPluginLoader, casts its instance to PDEPlugin, calls
@@ -23,7 +26,7 @@ public:
     /// @return true
     virtual bool initWithBundle(const std::shared_ptr<Bundle> &bundle) = 0;
     /// Asks for the panels of a type for the queue of this host object.
-    /// @param type  the plug-in type, compared exactly
+    /// @param type  the plug-in type, as kPrintPanelType, compared exactly
     /// @param host  retained by each panel that is made
     /// @return the panels, owned by the caller; empty when the queue gets none
     virtual std::vector<std::unique_ptr<PDEPanel>>

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-inline const QString kType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
+inline const QString kType = QString::fromLatin1(kPrintPanelType);
 
 /// The plug-in with the built bundle.
 class PluginTest : public testing::Test {
