@@ -104,10 +104,7 @@ void run(const host::CommandLine &line) {
 int main(int argc, char **argv) {
     std::signal(SIGPIPE, SIG_IGN); // a reader that is gone shows as a failed write
     try {
-        QStringList arguments;
-        for (int i = 1; i < argc; ++i)
-            arguments.append(QString::fromLocal8Bit(argv[i]));
-        const host::CommandLine line = host::parseCommandLine(arguments);
+        const host::CommandLine line = host::parseCommandLine(programArguments(argc, argv));
         if (line.command == host::Command::Help) {
             run(line);
             return 0;

@@ -1,5 +1,7 @@
 #include "platform/command_error.h"
 
+#include <QStringDecoder>
+
 QString printable(const QString &text) {
     QString shown;
     for (QChar c : text)
@@ -13,3 +15,15 @@ QString printable(const QString &text) {
 CommandError::CommandError(const QString &subject, const QString &reason)
     : m_text(printable(subject) + QStringLiteral(": ") + printable(reason.simplified())),
       m_utf8(m_text.toUtf8()) {}
+
+QStringList programArguments(int argc, char **argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        QStringDecoder decode(QStringDecoder::System, QStringConverter::Flag::Stateless);
+        arguments.append(decode(QByteArrayView(argv[i])));
+        if (decode.hasError())
+            throw CommandError(arguments.last(),
+                               QStringLiteral("isn't text in this system's encoding"));
+    }
+    return arguments;
+}

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <exception>
 
@@ -29,3 +30,8 @@ private:
     QString m_text;
     QByteArray m_utf8;
 };
+
+/// The arguments behind a program's name.
+/// @throw CommandError for one that isn't text in the locale's encoding: the file that it may name
+///        couldn't be found under the text that stands for it
+PDE_PLATFORM_EXPORT QStringList programArguments(int argc, char **argv);

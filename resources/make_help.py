@@ -43,7 +43,7 @@ PRODUCTS = {
                      RGB + ["cmyk-correction", "target-paper", "overprint"], "quality"),
 }
 
-# Topic: title and text in English, title and text in German. A German title ends with the name that
+# Topic: title and text in the first of LANGUAGES, and so on. A German title ends with the name that
 # a queue with English labels shows.
 TOPICS = {
     "Graphics": (
@@ -138,7 +138,7 @@ TOPICS = {
         "Hilfe", "Öffnet diese Seite."),
 }
 
-# What a topic says on one printer in place of its own text: English, German.
+# What a topic says on one printer in place of its own text, in each of LANGUAGES.
 INSTEAD = {
     ("MVO220", "image-settings"): (
         "Has no function on this printer: the settings of the window keep their defaults.",
@@ -160,7 +160,7 @@ INSTEAD = {
         "Der MVO-220 verwendet die Standardwerte dieser Einstellungen; das Fenster lässt sich bei ihm nicht öffnen."),
 }
 
-# What a topic says besides on one printer: English, German.
+# What a topic says besides on one printer, in each of LANGUAGES.
 NOTES = {
     ("MVO110", "brightness"): (
         "The leftmost position has no effect.",
@@ -191,7 +191,7 @@ ENGLISH = {
     "mirror": "It is the list of the panel once more: OK changes both.",
 }
 GERMAN = {
-    "column": 2, "code": "de", "folder": "de/Help", "book": "Hilfe zu Bildoptionen",
+    "column": 1, "code": "de", "folder": "de/Help", "book": "Hilfe zu Bildoptionen",
     "page": "{} am {}", "all": "Alle Seiten", "a-z": "Bedienelemente von A bis Z",
     "start": "Wählen Sie Ihren Drucker. Die erste Seite jedes Druckers beschreibt die Einstellungen "
              "im Druckdialog selbst, die anderen die Fenster, die sich über Schaltflächen öffnen "
@@ -200,19 +200,20 @@ GERMAN = {
     "advanced": "Wirksam bei „Erweiterte Einstellungen“.",
     "mirror": "Es ist dieselbe Liste wie im Druckdialog: OK ändert beide.",
 }
+LANGUAGES = (ENGLISH, GERMAN)
 
 
 def heading(language, topic):
-    return TOPICS[topic][language["column"]]
+    return TOPICS[topic][2 * language["column"]]
 
 
 def text(language, part, window, topic):
     product = PRODUCTS[part]
     if (part, topic) in INSTEAD:
-        return INSTEAD[part, topic][language["column"] // 2]
-    sentences = [TOPICS[topic][language["column"] + 1].format(part)]
+        return INSTEAD[part, topic][language["column"]]
+    sentences = [TOPICS[topic][2 * language["column"] + 1].format(part)]
     if (part, topic) in NOTES:
-        sentences.append(NOTES[part, topic][language["column"] // 2])
+        sentences.append(NOTES[part, topic][language["column"]])
     if "advanced-settings" in product.panel:
         sentences += [language["basic"]] * (topic in IN_BASIC)
         sentences += [language["advanced"]] * (topic in IN_ADVANCED)
@@ -272,7 +273,7 @@ def index(language):
 
 
 def main():
-    for language in (ENGLISH, GERMAN):
+    for language in LANGUAGES:
         folder = Path(__file__).resolve().parent / language["folder"]
         folder.mkdir(parents=True, exist_ok=True)
         (folder / "index.htm").write_text(index(language), encoding="utf-8")

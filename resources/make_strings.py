@@ -6,6 +6,7 @@ a change of the rows below. Which table a queue's panel uses is told by its PPD 
 "QZLocalizableFileIndex"; every table holds every key, since a key isn't sought in another table.
 """
 
+import sys
 from pathlib import Path
 from xml.sax.saxutils import escape
 
@@ -91,8 +92,11 @@ def main():
     folder = Path(__file__).resolve().parent / "strings"
     for table, own in TABLES.items():
         rows = ROWS | own
-        assert rows.keys() == ROWS.keys()
-        assert all(len(texts) == len(LANGUAGES) and all(texts) for texts in rows.values())
+        for key in own.keys() - ROWS.keys():
+            sys.exit(f"table {table}: {key}: no row of the default table")
+        for key, texts in rows.items():
+            if len(texts) != len(LANGUAGES) or not all(texts):
+                sys.exit(f"table {table}: {key}: {len(LANGUAGES)} texts are needed")
         for language in LANGUAGES:
             text = "\n".join(source(language, rows))
             (folder / f"Localizable{table}_{language}.ts").write_text(text, encoding="utf-8")

@@ -12,26 +12,35 @@
 namespace {
 
 constexpr qint64 kGreatestFile = 256 << 20;
+/// Bits of a sample. What has more, hardly any program reads.
+constexpr size_t kGreatestDepth = 16;
 
 using Pictures = std::vector<Magick::Image>;
+
+/// What a format keeps of transparency.
+enum class Opacity {
+    None,    ///< every place needs a colour
+    AllOrNo, ///< so does a place that shows a part of what is behind it
+    Any,
+};
 
 struct FileType {
     const char *encoder;
     const char *format; ///< what the encoder's files are known by, from their first bytes
     const char *extension;
-    bool holdsMany;  ///< pictures
-    bool holdsAlpha; ///< or else transparent places need a colour
+    bool holdsMany; ///< pictures
+    Opacity opacity;
 };
 
 // By ImageFileType. BMP3 is the variant whose information header has 40 bytes.
 // clang-format off
 constexpr FileType kFileTypes[] = {
-    {"TIFF", "TIFF", "tiff", true, true},
-    {"BMP3", "BMP", "bmp", false, false},
-    {"GIF", "GIF", "gif", true, true},
-    {"JPEG", "JPEG", "jpg", false, false},
-    {"PNG", "PNG", "png", false, true},
-    {"JP2", "JP2", "jp2", false, true},
+    {"TIFF", "TIFF", "tiff", true, Opacity::Any},
+    {"BMP3", "BMP", "bmp", false, Opacity::None},
+    {"GIF", "GIF", "gif", true, Opacity::AllOrNo},
+    {"JPEG", "JPEG", "jpg", false, Opacity::None},
+    {"PNG", "PNG", "png", false, Opacity::Any},
+    {"JP2", "JP2", "jp2", false, Opacity::Any},
 };
 // clang-format on
 
@@ -70,6 +79,18 @@ Pictures load(const QString &path) {
     return whole;
 }
 
+/// Wholly transparent places stay so where the format has them.
+void putOnWhite(Magick::Image &picture, Opacity opacity) {
+    Magick::Image shown = picture;
+    picture.backgroundColor("white");
+    picture.alphaChannel(MagickCore::RemoveAlphaChannel);
+    if (opacity == Opacity::None)
+        return;
+    shown.alphaChannel(MagickCore::ExtractAlphaChannel);
+    shown.threshold(0);
+    picture.composite(shown, 0, 0, MagickCore::CopyOpacityCompositeOp);
+}
+
 /// @return the data of a file of the type; empty if the encoder made something else
 QByteArray encode(Pictures pictures, const FileType &type) {
     if (!type.holdsMany)
@@ -78,10 +99,10 @@ QByteArray encode(Pictures pictures, const FileType &type) {
         picture.quiet(true);
         picture.magick(type.encoder);
         picture.compressType(Magick::NoCompression); // not the source's
-        if (!type.holdsAlpha && picture.matte()) {
-            picture.backgroundColor("white");
-            picture.alphaChannel(MagickCore::RemoveAlphaChannel);
-        }
+        if (picture.depth() > kGreatestDepth)
+            picture.depth(kGreatestDepth);
+        if (type.opacity != Opacity::Any && picture.matte())
+            putOnWhite(picture, type.opacity);
         if (&type == &kFileTypes[kImageBMP]) {
             // 28.35 per centimetre is stored as 2835 per metre, 72 per inch as 2834.
             picture.modifyImage();

@@ -14,9 +14,6 @@ namespace cdf {
 namespace {
 
 constexpr int kEnd = std::char_traits<char>::eof();
-/// Beyond the length of any name that a PPD holds, and of a PPD's lines.
-constexpr size_t kGreatestText = 1024;
-
 std::optional<uint16_t> number(const std::string &text) {
     uint16_t value = 0;
     const char *const end = text.data() + text.size();

@@ -10,6 +10,9 @@
 
 namespace cdf {
 
+/// Bytes of a section's name or a field: beyond any name that a PPD holds, and a PPD's lines.
+inline constexpr size_t kGreatestText = 1024;
+
 /// The entries of one key that stand next to each other in a section, with repeats counted.
 struct CacheRun {
     std::string key; ///< empty in entries that the panel drops

@@ -45,10 +45,7 @@ void cdf::say(const QString &text) {
 
 int main(int argc, char **argv) {
     try {
-        QStringList arguments;
-        for (int i = 1; i < argc; ++i)
-            arguments.append(QString::fromLocal8Bit(argv[i]));
-        const int code = run(cdf::parseCommandLine(arguments));
+        const int code = run(cdf::parseCommandLine(programArguments(argc, argv)));
         if (std::fflush(stdout) != 0)
             failOutput();
         return code;

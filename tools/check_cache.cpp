@@ -68,7 +68,8 @@ public:
             differs(m_reader.fault() + QStringLiteral("; nothing behind that was checked"));
             return false;
         }
-        for (const QString &section : m_line.sections)
+        const QStringList wanted = m_line.sections.isEmpty() ? kPanelSections : m_line.sections;
+        for (const QString &section : wanted)
             if (!m_seen.contains(section))
                 differs(QStringLiteral("section %1 is missing").arg(section));
         checkStamp();
@@ -122,7 +123,7 @@ private:
                 count.cached = 0;
             }
         if (whole && equal)
-            say(shown + QStringLiteral("%1 entries, equal").arg(entries));
+            say(shown + entriesText(entries) + QStringLiteral(", equal"));
     }
 
     void checkStamp() {

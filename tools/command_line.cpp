@@ -1,6 +1,7 @@
 #include "tools/command_line.h"
 
 #include "ppd/constraint_cache.h"
+#include "tools/cache_reader.h"
 #include "tools/tool_error.h"
 
 #include <QCommandLineParser>
@@ -51,7 +52,9 @@ const OptionRow kOptions[] = {
 /// A name is a line of its own in the file, never one that could be an entry or the stamp.
 void takeSection(CommandLine &line, const QString &name) {
     const bool printable = std::ranges::all_of(name, [](QChar c) { return c.isPrint(); });
-    if (!printable || name.contains(u'@') || name.startsWith(u'*'))
+    if (!printable || name.contains(u'@') || name.startsWith(u'*') ||
+        name.contains(QString::fromStdString(STRPPDSTAMP)) ||
+        size_t(name.toUtf8().size()) >= kGreatestText)
         wrong(QStringLiteral("--section ") + name, QStringLiteral("can't be a section's name"));
     if (line.sections.contains(name))
         wrong(QStringLiteral("--section ") + name, QStringLiteral("is given twice"));
@@ -83,7 +86,7 @@ void takeOption(CommandLine &line, const OptionRow &row, const QStringList &valu
 
 CommandLine parseCommandLine(const QStringList &arguments) {
     QCommandLineParser parser;
-    parser.addOption({QStringLiteral("help"), {}});
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, {}});
     for (const OptionRow &row : kOptions)
         parser.addOption({QString::fromUtf8(row.name), {}, QString::fromUtf8(row.value)});
     const bool understood = parser.parse(QStringList(QStringLiteral("cdf-tool")) + arguments);

@@ -32,6 +32,10 @@ QString printable(std::string_view text) {
     return ::printable(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
 }
 
+QString entriesText(uint64_t count) {
+    return count == 1 ? QStringLiteral("1 entry") : QStringLiteral("%1 entries").arg(count);
+}
+
 EntryWords::EntryWords(ppd_file_t *ppd) : m_ppd(ppd) {
     if (ppd)
         GetCFStringEncodingFromPPD(ppd, &m_encoding);

@@ -12,6 +12,9 @@ namespace cdf {
 /// A file's bytes on a terminal, taken as UTF-8.
 QString printable(std::string_view text);
 
+/// "1 entry", "2 entries".
+QString entriesText(uint64_t count);
+
 /// Says what an entry of a constraint table means.
 class EntryWords {
 public:

@@ -1,6 +1,7 @@
 #include "tools/inputs.h"
 
 #include "platform/file_content.h"
+#include "ppd/constraint_cache.h"
 #include "ppd/panel_options.h"
 #include "tools/tool_error.h"
 
@@ -12,6 +13,9 @@ namespace {
 constexpr qint64 kGreatestKeysFile = 1 << 20;
 
 } // namespace
+
+const QStringList kPanelSections{QString::fromStdString(strImageOptionPDETiger),
+                                 QString::fromStdString(strImageOptionPDEPanther)};
 
 PpdFile openPpd(const QString &path) {
     PpdFile file = readPpdFile(path);

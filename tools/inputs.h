@@ -2,6 +2,7 @@
 
 #include "platform/ppd_file.h"
 
+#include <QStringList>
 #include <QTemporaryFile>
 
 #include <list>
@@ -9,6 +10,9 @@
 #include <string>
 
 namespace cdf {
+
+/// The sections that the panel looks for: the one of this system's version, and of older ones.
+extern const QStringList kPanelSections;
 
 /// Opens a PPD file, plain or gzipped. @throw ToolError when it is none or was cut off
 PpdFile openPpd(const QString &path);

@@ -36,7 +36,7 @@ void listCache(const CommandLine &line) {
             progress.reach(reader.position());
         }
         if (reader.fault().isNull())
-            say(QStringLiteral("  %1 entries").arg(entries));
+            say(QStringLiteral("  ") + entriesText(entries));
     }
     progress.reach(reader.position());
     if (!reader.fault().isNull())

@@ -80,17 +80,16 @@ void writeCache(const CommandLine &line) {
     const PpdFile ppd = openPpd(line.ppd);
     std::list<std::string> keys = watchedKeys(line.keys);
     std::vector<std::string> names;
-    for (const QString &name : line.sections)
+    for (const QString &name : line.sections.isEmpty() ? kPanelSections : line.sections)
         names.push_back(name.toStdString());
-    if (names.empty())
-        names = {strImageOptionPDETiger, strImageOptionPDEPanther};
     std::vector<x_PDEConstr> sections;
     for (std::string &name : names)
         sections.push_back({&name, &keys});
     sections.push_back({});
 
     for (int signal : {SIGINT, SIGTERM, SIGHUP})
-        std::signal(signal, askToStop);
+        if (std::signal(signal, askToStop) == SIG_IGN)
+            std::signal(signal, SIG_IGN); // as nohup asks
     QSaveFile file(line.cache);
     if (!file.open(QIODevice::WriteOnly))
         throw ToolError(line.cache, file.errorString());

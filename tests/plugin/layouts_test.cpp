@@ -55,10 +55,13 @@ protected:
 };
 
 TEST_F(LayoutsTest, NoTextIsCutAndNothingJumps) {
-    for (int i = 0; i < 5 * kLanguages.size(); ++i) {
-        Bundle::setLanguages({kLanguages[i / 5]});
-        SCOPED_TRACE(kLayouts[i % 5].sample + (' ' + kLanguages[i / 5].toStdString()));
-        QWidget *root = open(kLayouts[i % 5]);
+    constexpr int layouts = std::size(kLayouts);
+    for (int i = 0; i < layouts * kLanguages.size(); ++i) {
+        const Layout &layout = kLayouts[i % layouts];
+        const QString &language = kLanguages[i / layouts];
+        Bundle::setLanguages({language});
+        SCOPED_TRACE(layout.sample + (' ' + language.toStdString()));
+        QWidget *root = open(layout);
         const auto *below = root->findChild<QWidget *>("colorbalanceButtonCtrl");
         const QRect place(below->mapTo(root, QPoint()), below->size());
         for (const char *mode : {"graphicsbasicSetRdioBtn", "graphicsadvanceSetRdioBtn"}) {

@@ -29,6 +29,19 @@ TEST(ImageConversion, WhatItReadsAndOthersReadBack) {
         EXPECT_EQ(read.pixel(0, 0) & 0xFFF0F0F0, 0xFF2040C0) << format;
         EXPECT_EQ(qPremultiply(read.pixel(31, 63)), corner) << format;
     }
+    image.setPixel(31, 31, 0x400000FF); // a quarter of blue
+    ASSERT_TRUE(image.copy(0, 0, 32, 64).save(in, "PNG"));
+    ASSERT_EQ(ConvertImgType(in, out, kImageGIF, false), 0);
+    EXPECT_EQ(QImage(out).pixel(31, 31) & 0xFFF0F0F0, 0xFFB0B0F0);
+    EXPECT_EQ(qAlpha(QImage(out).pixel(31, 63)), 0);
+    QFile deep(in);
+    ASSERT_TRUE(deep.open(QIODevice::WriteOnly));
+    deep.write("P6 9 9 4294967295 " + QByteArray(9 * 9 * 12, 'x')); // 32 bits of a sample
+    deep.close();
+    ASSERT_EQ(ConvertImgType(in, out + ".jp2", kImageJPEG2000, false), 0);
+    EXPECT_EQ(
+        QProcess::execute("opj_decompress", {"-quiet", "-i", out + ".jp2", "-o", in + ".png"}), 0);
+    QFile::remove(out);
     const std::pair<QByteArray, int> sources[] = {{"", 1001},
                                                   {"%!PS\nshowpage\n", 1001},
                                                   {"push graphic-context\n", 1001},

@@ -24,6 +24,11 @@ TEST_F(ToolTest, CheckPassesForEachSample) {
         EXPECT_EQ(checked.out.count(", equal\n"), 3) << checked.out.constData();
         EXPECT_EQ(run({"list", "a.cdf", "--ppd", samplePath(sample)}).out.count(" in the PPD"), 0);
     }
+    QByteArray renamed = read("a.cdf"); // the panel would find nothing in it
+    write("a.cdf", renamed.replace("ImageOptionPDET", "ImageOptionPDEt"));
+    const Run damaged = run({"check", "a.cdf", "--ppd", samplePath(samples.last())});
+    EXPECT_EQ(damaged.exitCode, 1);
+    EXPECT_TRUE(damaged.out.contains("section ImageOptionPDETiger is missing\n"));
     const QString kept = samplePath("velmora-mvo-530.cdf");
     EXPECT_EQ(run({"check", kept, "--ppd", samplePath("velmora-mvo-530-cached.ppd")}).exitCode, 0);
     EXPECT_EQ(run({"check", kept, "--ppd", samplePath("velmora-mvo-110.ppd")}).exitCode, 1);
@@ -80,7 +85,8 @@ TEST_F(ToolTest, CheckTellsWhatDiffers) {
     };
     for (const auto &c : cases) {
         write("a.cdf", c.cache);
-        const Run checked = run(QStringList{"check", "a.cdf", "--ppd", "a.ppd"} + c.options);
+        const QStringList options = c.options.isEmpty() ? QStringList{"--section", "S"} : c.options;
+        const Run checked = run(QStringList{"check", "a.cdf", "--ppd", "a.ppd"} + options);
         const bool same = c.out.count('\n') == c.out.count(", equal\n");
         EXPECT_EQ(checked.exitCode, same ? 0 : 1) << c.out.constData();
         EXPECT_EQ(checked.out, c.out);

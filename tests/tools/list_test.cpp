@@ -24,7 +24,7 @@ TEST_F(ToolTest, ListsEntriesInWords) {
          "  0 entries\n"
          "section T\n"
          "  \"0@x@65536\" (no three numbers) forbids A:b\n"
-         "  1 entries\n"
+         "  1 entry\n"
          "stamp *% Last Edit Date: today\n"},
         {{"short.cdf", "--section", "S", "--ppd", "a.ppd"},
          "section S\n"

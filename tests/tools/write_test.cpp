@@ -90,6 +90,8 @@ TEST_F(ToolTest, BadInput) {
         {{"write", "a.ppd", "-o"}, "arguments: Missing value after '-o' ("},
         {{"list", "old.cdf", "--frob"}, "arguments: Unknown option 'frob' ("},
         {{"write", "a.ppd", "-o", "old.cdf", "--section", "a@b"}, "--section a@b: can't be"},
+        {{"write", "a.ppd", "-o", "old.cdf", "--section", "A*% Last Edit Date:"}, "--section A*"},
+        {{"write", "a.ppd", "-o", "old.cdf", "--section", QString(1024, 'a')}, "--section aaa"},
         {{"list", "old.cdf", "--section", "a", "--section", "a"}, "--section a: is given twice"},
         {elevenSections, "--section: is given more than 10 times"},
         {{"write", "no.ppd", "-o", "old.cdf"}, "no.ppd: No such file or directory"},
