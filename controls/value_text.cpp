@@ -18,15 +18,6 @@ bool integerFromText(const char *text, CtrlDataBlk *block) {
     return true;
 }
 
-int32_t leadingInteger(const char *text) {
-    return static_cast<int32_t>(
-        std::clamp<long>(std::strtol(text, nullptr, 10), INT32_MIN, INT32_MAX));
-}
-
-int32_t leadingInteger(const QString &text) {
-    return leadingInteger(text.toUtf8().constData());
-}
-
 void addSummaryRow(const QString &title, const QString &text, QVariantMap *summary,
                    QStringList *orderArray) {
     if (!summary || !orderArray || title.isNull() || text.isNull())

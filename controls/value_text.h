@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/data_block.h"
+#include "platform/numbers.h"
 
 #include <QString>
 #include <QStringList>
@@ -17,11 +18,6 @@ bool integerToText(const CtrlDataBlk *block, char *buffer, int size);
 /// Reads a decimal text into a block, as leadingInteger does.
 /// @return false without a text or a block
 bool integerFromText(const char *text, CtrlDataBlk *block);
-
-/// The number at a text's start, 0 without one: blanks, a sign, digits. One that is too great gives
-/// the greatest, and likewise below.
-int32_t leadingInteger(const char *text);
-int32_t leadingInteger(const QString &text);
 
 /// Summary texts of check boxes, steppers and output modes pass through a buffer of 24 bytes.
 inline constexpr int kSummaryTextBytes = 23;

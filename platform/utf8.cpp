@@ -2,9 +2,18 @@
 
 #include <QStringDecoder>
 
-std::optional<QString> strictUtf8(const char *text) {
+namespace {
+
+/// A byte order mark is a character, and one that breaks off an error.
+QStringDecoder plainDecoder() {
     using Flag = QStringConverter::Flag;
-    QStringDecoder decoder(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
+    return QStringDecoder(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
+}
+
+} // namespace
+
+std::optional<QString> strictUtf8(const char *text) {
+    QStringDecoder decoder = plainDecoder();
     const QString decoded = decoder(QByteArrayView(text));
     return decoder.hasError() ? std::nullopt : std::optional(decoded);
 }
@@ -20,7 +29,7 @@ QString wholeCharacters(QByteArrayView utf8) {
         if (end - (lead - 1) < length)
             end = lead - 1;
     }
-    return QStringLiteral("") + QString::fromUtf8(utf8.first(end));
+    return QStringLiteral("") + plainDecoder()(utf8.first(end));
 }
 
 QString cutToBytes(const QString &text, qsizetype bytes) {

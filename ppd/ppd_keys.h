@@ -3,9 +3,9 @@
 /// The keywords of the maker's PPD files. The panels of one driver share the list; this panel asks
 /// only for some of them.
 ///
-/// A name begins with `KPPD` or `kPPD` for an option and, but for a few options, with `kQZ` for an
-/// attribute; "QZX...Settings" states a feature class of a product. Constants that share a text do
-/// so on purpose.
+/// A name mostly begins with `KPPD` or `kPPD` for an option and with `kQZ` for an attribute;
+/// "QZX...Settings" states a feature class of a product. Constants that share a text do so on
+/// purpose.
 
 // Options and attributes that only the sibling panels ask for.
 inline constexpr const char *kQZProductTypeFeatures = "QZXFeaturesSettings";
@@ -135,7 +135,7 @@ inline constexpr const char *kQZInvalidateColorProfile = "QZInvalidateColorProfi
 inline constexpr const char *KVendorPPDPrefix = "QZ";
 inline constexpr const char *KVendorPPDValue = "QZ";
 
-// Texts of the PPD's encoding, as PPD 4.3 spells them for *LanguageEncoding.
+// Values of *LanguageEncoding: of PPD 4.3, and for UTF-8 both spellings in use.
 inline constexpr const char *kISOLatin1 = "ISOLatin1";
 inline constexpr const char *kWindowsANSI = "WindowsANSI";
 inline constexpr const char *kJIS83_RKSJ = "JIS83-RKSJ";

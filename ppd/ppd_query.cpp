@@ -1,5 +1,6 @@
 #include "ppd/ppd_query.h"
 
+#include "platform/numbers.h"
 #include "platform/utf8.h"
 #include "ppd/ppd_keys.h"
 
@@ -60,10 +61,6 @@ int positionOf(const ppd_option_t &option, const ppd_choice_t *choice) {
     return before(choice, option.choices) || !before(choice, end)
                ? -1
                : static_cast<int>(choice - option.choices);
-}
-
-int toInt(long number) {
-    return static_cast<int>(std::clamp<long>(number, INT_MIN, INT_MAX));
 }
 
 } // namespace
@@ -204,7 +201,7 @@ int getIntFromString(const char *text, unsigned int n) {
     for (unsigned int i = 0; text && i < n && count < kNumberBytes - 1; ++i)
         if (text[i] >= '0' && text[i] <= '9')
             digits[count++] = text[i];
-    return toInt(std::strtol(digits, nullptr, 10));
+    return leadingInteger(digits);
 }
 
 int GetPWMiniIntValueFromPPD(ppd_file_t *ppd, const char *key) {
@@ -218,9 +215,9 @@ int GetSorvaniPWMiniIntValueFromPPD(ppd_file_t *ppd, const char *name) {
     const ppd_attr_t *attribute = ppdFindAttr_ALT(ppd, name, nullptr);
     for (const char *at = attribute ? attribute->value : nullptr; at && *at; ++at) {
         char *end;
-        const long number = std::strtol(at, &end, 10);
+        std::strtol(at, &end, 10);
         if (end != at)
-            return toInt(number);
+            return leadingInteger(at);
     }
     return -1;
 }

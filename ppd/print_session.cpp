@@ -1,9 +1,7 @@
 #include "ppd/print_session.h"
 
+#include "platform/numbers.h"
 #include "platform/utf8.h"
-#include "ppd/unit_utils.h"
-
-#include <QStringDecoder>
 
 #include <cstring>
 
@@ -12,17 +10,23 @@ namespace {
 const QString kPMPPDReference = QStringLiteral("kPMPPDReference");
 constexpr char16_t kFullwidthBrokenBar = u'\uFFE4';
 
+bool isFraction(const QVariant &data) {
+    return data.typeId() == QMetaType::Double || data.typeId() == QMetaType::Float;
+}
+
 bool isNumber(const QVariant &data) {
     switch (data.typeId()) {
+    case QMetaType::Short:
+    case QMetaType::UShort:
     case QMetaType::Int:
     case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
-    case QMetaType::Float:
-    case QMetaType::Double:
         return true;
     default:
-        return false;
+        return isFraction(data);
     }
 }
 
@@ -34,9 +38,8 @@ PMStatus GetTicketFromSession(PMPrintSession session, const QString &key, void *
     QVariant data;
     if (PMSessionGetDataFromSession(session, key, &data) != kPMNoError || !isNumber(data))
         return kPMNoTicketValue;
-    const bool whole = data.typeId() != QMetaType::Double && data.typeId() != QMetaType::Float;
-    const auto number =
-        whole ? static_cast<int32_t>(data.toLongLong()) : truncatedToInt(data.toDouble());
+    const int32_t number = isFraction(data) ? truncatedToInt(data.toDouble())
+                                            : static_cast<int32_t>(data.toLongLong());
     std::memcpy(out, &number, sizeof number);
     return kPMNoError;
 }

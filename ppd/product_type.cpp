@@ -59,7 +59,7 @@ CPPDChecker *CPPDChecker::Instance() {
 CPPDChecker::CPPDChecker(const char *const *allKeys, const ProductTypeList *list) {
     for (; allKeys && *allKeys; ++allKeys)
         checks.emplace(*allKeys, false);
-    for (; list->keys; ++list) {
+    for (; list && list->keys; ++list) {
         Pattern pattern = checks;
         for (const char *const *key = list->keys; *key; ++key)
             pattern[*key] = true;

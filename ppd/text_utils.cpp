@@ -1,7 +1,7 @@
 #include "ppd/text_utils.h"
 
+#include "platform/numbers.h"
 #include "platform/utf8.h"
-#include "ppd/unit_utils.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -33,17 +33,8 @@ int intValue(const QVariant &value) {
     case QMetaType::Double:
     case QMetaType::Float:
         return truncatedToInt(value.toDouble());
-    case QMetaType::QString: {
-        const QString text = value.toString();
-        auto c = std::find_if_not(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
-        const bool negative = c != text.cend() && *c == u'-';
-        if (c != text.cend() && (*c == u'-' || *c == u'+'))
-            ++c;
-        double number = 0; // exact far beyond 32 bits
-        for (; c != text.cend() && *c >= u'0' && *c <= u'9'; ++c)
-            number = number * 10 + (c->unicode() - u'0');
-        return truncatedToInt(negative ? -number : number);
-    }
+    case QMetaType::QString:
+        return leadingInteger(value.toString().trimmed());
     default:
         return static_cast<int>(value.toLongLong());
     }

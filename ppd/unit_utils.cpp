@@ -1,7 +1,8 @@
 #include "ppd/unit_utils.h"
 
+#include "platform/numbers.h"
+
 #include <QByteArray>
-#include <charconv>
 
 #include <algorithm>
 #include <cmath>
@@ -33,29 +34,6 @@ struct Tenths {
 
 } // namespace
 
-int truncatedToInt(double value) {
-    constexpr double low = std::numeric_limits<int>::min();
-    constexpr double high = std::numeric_limits<int>::max();
-    return std::isnan(value) ? 0 : static_cast<int>(std::clamp(value, low, high));
-}
-
-namespace {
-
-/// The number at a text's start, with "." as the decimal sign whatever the locale is; 0 without
-/// one.
-double leadingDouble(const QByteArray &text) {
-    const char *at = text.constData();
-    while (*at == ' ' || (*at >= '\t' && *at <= '\r'))
-        ++at;
-    if (*at == '+')
-        ++at;
-    double value = 0;
-    std::from_chars(at, text.constData() + text.size(), value);
-    return value;
-}
-
-} // namespace
-
 int TransformPointByType(char *out, int points, int decimals, int type) {
     if (type != 0 && type != 1)
         return -1;
@@ -78,7 +56,7 @@ QString TransformMillimetreToInchs(const QString &millimetres) {
     if (millimetres.isNull())
         return QString();
     const Tenths tenths(millimetres);
-    const double value = leadingDouble(tenths.digits) * tenths.factor;
+    const double value = leadingDouble(tenths.digits.constData()) * tenths.factor;
     const int x = truncatedToInt(std::rint(value / kCentimetresPerInch));
     return QString::asprintf("%d.%d%d", std::abs(x / 100), std::abs(x % 100 / 10),
                              std::abs(x % 10));

@@ -7,9 +7,6 @@
 /// Points of an inch (PostScript).
 inline constexpr float UnitsPerInch = 72.0F;
 
-/// @return the value without its fraction, held within 32 bits; 0 for no number
-int truncatedToInt(double value);
-
 /// Converts points into a scaled integer and its text.
 ///
 /// Inches are rounded to the nearest unit of the last decimal. Millimetres have 5 added and their

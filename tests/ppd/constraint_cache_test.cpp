@@ -115,3 +115,17 @@ TEST_F(ConstraintCache, WrittenSectionsReadBackAndEndWithTheStamp) {
     }
     EXPECT_EQ(fresh.size(), 6u);
 }
+
+TEST(ConstraintCacheFields, AreMovedBehindWhatIsThere) {
+    CQuickXPPD cache;
+    std::string line = "a@@rest", field = "before ";
+    for (const auto &[taken, left] :
+         {std::pair("before a", "@rest"), {"before a", "rest"}, {"before a", "rest"}}) {
+        cache.getoneline(&line, &field, '@');
+        EXPECT_EQ(field, taken);
+        EXPECT_EQ(line, left);
+    }
+    std::ostringstream out;
+    EXPECT_EQ(cache.SetFileHead(out, nullptr), 0);
+    EXPECT_EQ(out.str(), "");
+}

@@ -21,8 +21,11 @@ TEST(PrintSession, SettingsTakeTextsWithPlainBars) {
 TEST(PrintSession, NumbersThePpdReferenceAndThePrintersKeys) {
     PrintSession session;
     session.setData("wide", 0x1'FFFF'FFF9LL);
+    session.setData("int64", QVariant::fromValue(int64_t{5}));
+    session.setData("float", -2.9F);
     session.setData("text", "12");
-    for (const auto &[key, status, number] : {std::tuple("wide", 0, -7), {"text", -30891, 99}}) {
+    for (const auto &[key, status, number] :
+         {std::tuple("wide", 0, -7), {"int64", 0, 5}, {"float", 0, -2}, {"text", -30891, 99}}) {
         int32_t value = 99;
         EXPECT_EQ(GetTicketFromSession(&session, key, &value), status) << key;
         EXPECT_EQ(value, number) << key;

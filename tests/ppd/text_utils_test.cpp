@@ -24,6 +24,7 @@ TEST(TextUtils, NumbersAndTheirTexts) {
         EXPECT_EQ(ConvertFloatStrToInt(text), value) << (text ? text : "null");
     EXPECT_EQ(GetMillimetreFromStr("12.34"), 1234);
     EXPECT_EQ(TransformMillimetreToInchs("12.34"), "4.86");
+    EXPECT_EQ(TransformMillimetreToInchs("+-5"), "0.00");
     const std::tuple<int, int, int, int, const char *> points[] = {
         {72, 2, 0, 100, "1.00"}, {72, 2, 1, 2540, "25.40"},
         {72, 2, 7, -1, "#"},     {3, 2, 0, 4, ".4"},
@@ -83,6 +84,7 @@ TEST(TextUtils, WidthsFieldsCopiesAndOrder) {
         AddNoRepeatStrToArray(&set, text);
     EXPECT_EQ(set, (QStringList{"a", "A", u"\u00E9"_qs}));
     EXPECT_EQ(NSStringCreateWithCFString(QString(254, u'a') + u'\u00E9'), QString(254, u'a'));
+    EXPECT_EQ(NSStringCreateWithCFString(u"\uFEFFa"_qs), u"\uFEFFa"_qs); // a byte order mark stays
     unsigned short out[3] = {9, 9, 9};
     EXPECT_EQ(RemoveAllSpaces(u" a \u3000"_qs, out), 2);
     EXPECT_EQ(QString::fromUtf16(reinterpret_cast<char16_t *>(out), 3), QString(u"a\u3000\0"_qs));
