@@ -2,6 +2,7 @@
 
 #include "controls/base_control.h"
 #include "platform/preferences.h"
+#include "platform/utf8.h"
 #include "platform/views/view.h"
 #include "ppd/print_session.h"
 #include "ppd/text_utils.h"
@@ -99,7 +100,8 @@ bool BaseControlKRVImageOptions::writePreference(
     if (!ConvertToPreferenceString(buffer.data()))
         return false;
     const QString key = preferenceStoreKey();
-    return !key.isNull() && store(key, QString::fromUtf8(buffer.data()));
+    const std::optional<QString> text = strictUtf8(buffer.data());
+    return !key.isNull() && text && store(key, *text);
 }
 
 bool BaseControlKRVImageOptions::readPreference(

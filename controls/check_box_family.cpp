@@ -47,13 +47,6 @@ bool CheckBoxKRVImageOptions::InitializeTitle(const Bundle *bundle) {
     return true;
 }
 
-bool CheckBoxKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
-    if (!value || !views::isEnabled(box()))
-        return false;
-    showValue(externalInteger(value));
-    return true;
-}
-
 const void *CheckBoxKRVImageOptions::GetDefaultDataBlk() {
     return checkboxctrlIniDataPtr ? &checkboxctrlIniDataPtr->defaultValue : nullptr;
 }

@@ -22,8 +22,6 @@ public:
     /// @return false without a bundle; true without a record, with the form's title left
     bool InitializeTitle(const Bundle *bundle) override;
 
-    /// @return false, with nothing set, for a missing value and a disabled view
-    bool SetExternalValueToUI(const void *value, uint32_t size) override;
     const void *GetDefaultDataBlk() override;
     const void *GetIniDataBlk() override;
 

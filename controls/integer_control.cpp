@@ -1,6 +1,7 @@
 #include "controls/integer_control.h"
 
 #include "controls/value_text.h"
+#include "platform/views/view.h"
 
 #include <cstring>
 
@@ -37,6 +38,13 @@ bool IntegerControl::SetControlValueToUI() {
     if (!ctrlDataBlkPtr || !shownValue())
         return false;
     showValue(ctrlDataBlkPtr->word());
+    return true;
+}
+
+bool IntegerControl::SetExternalValueToUI(const void *value, uint32_t) {
+    if (!value || !views::isEnabled(GetControlPtr()))
+        return false;
+    showValue(externalInteger(value));
     return true;
 }
 

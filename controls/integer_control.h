@@ -18,6 +18,8 @@ public:
     void SetValueFromUIToControl() override;
     /// @return false without a block or a view
     bool SetControlValueToUI() override;
+    /// View := an integer. @return false, with nothing set, for a missing value and a disabled view
+    bool SetExternalValueToUI(const void *value, uint32_t size) override;
     /// Data block := the value under the record's ticket key; the view stays.
     bool GetValueToPreset() override;
     /// @return 4

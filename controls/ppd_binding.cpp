@@ -8,6 +8,7 @@
 
 bool PpdBinding::rebuild(ppd_file_t *ppd, const ControlPanel *panel) {
     ctrlPPDInfoArrayRef.clear();
+    hasRows = true;
     const hash_multimap *table = panel ? panel->Getxppd() : nullptr;
     if (!ppd || !kPPDMainKey || !table)
         return false;
@@ -75,6 +76,12 @@ void PpdBinding::addSummaryRow(const QString &text, QVariantMap *summary, QStrin
 
 QString PpdBinding::label(int64_t row) const {
     return row >= 0 && row < rowCount() ? ctrlPPDInfoArrayRef[row].label : QString();
+}
+
+QString PpdBinding::choiceAt(const ppd_option_t *option, int32_t index) {
+    return option && index >= 0 && index < option->num_choices
+               ? QString::fromUtf8(option->choices[index].choice)
+               : QString();
 }
 
 QString PpdBinding::choiceAt(const PDEChoiceArray *choices, int64_t index) {

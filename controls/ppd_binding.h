@@ -15,6 +15,7 @@
 struct PpdBinding {
     const char *kPPDMainKey = nullptr; ///< outlives the control
     ChoiceRows ctrlPPDInfoArrayRef{};
+    bool hasRows = false;               ///< whether rows were made before, and be it none
     CtrlTag ctrlIDTitleExPtr = nullptr; ///< the static text that shows the title; null for none
     QString titleTextRef{};             ///< null without the option
 
@@ -49,7 +50,9 @@ struct PpdBinding {
     /// The label of a row; null outside.
     QString label(int64_t row) const;
 
-    /// @return the keyword of the choice at an index, as the host is told it; null outside
+    /// @return the keyword of an option's choice, as the host is told it; null outside
+    static QString choiceAt(const ppd_option_t *option, int32_t index);
+    /// The same of the choices' titles, which are read as ISO Latin-1.
     static QString choiceAt(const PDEChoiceArray *choices, int64_t index);
     /// @return the panel's PPD, or null
     static ppd_file_t *currentPpd(const ControlPanel *panel) {

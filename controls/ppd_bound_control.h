@@ -49,7 +49,7 @@ public:
 
 protected:
     /// Tells the host the choice at an index at save time, once for each change.
-    /// @return false without block, panel or choice, for an unchanged value and on refusal
+    /// @return false without panel or choice, for an unchanged value and on refusal
     bool sendChangedChoice(int64_t index) {
         if (!this->ctrlParentPanelPtr || !this->valueDidChange ||
             !this->tellHost(m_ppd.kPPDMainKey, PpdBinding::choiceAt(this->getPPDChoices(), index)))

@@ -99,8 +99,10 @@ int32_t PPDPopupControlKRVImageOptions::GetSummaryText(QVariantMap *summary,
 bool PPDPopupControlKRVImageOptions::UIEventHandler() {
     if (ppd_file_t *ppd = ctrlParentPanelPtr ? ctrlParentPanelPtr->GetCurrentPPD() : nullptr) {
         if (!SetPPD(ppd)) {
-            if (popup())
-                popup()->selectItemAtIndex(popup()->itemBeforeAct());
+            if (PopupView *menu = popup()) {
+                const int told = ctrlUIDataBlkPtr ? ctrlUIDataBlkPtr->word() - 1 : 0;
+                menu->selectItemAtIndex(menu->itemBeforeAct().value_or(std::max(told, 0)));
+            }
             return true;
         }
         ctrlParentPanelPtr->UpdateConflictsPanelControlFromPPD(ppd);
@@ -114,7 +116,7 @@ bool PPDPopupControlKRVImageOptions::GetValueToPreset() {
     if (index < 0)
         return false;
     if (index < m_ptPPDOptions->num_choices &&
-        !tellHost(m_ppd.kPPDMainKey, QString::fromUtf8(m_ptPPDOptions->choices[index].choice)))
+        !tellHost(m_ppd.kPPDMainKey, PpdBinding::choiceAt(m_ptPPDOptions, index)))
         return false;
     return ConvertFromPresetIndex(index);
 }
@@ -128,8 +130,8 @@ bool PPDPopupControlKRVImageOptions::ConvertFromPresetIndex(int32_t index) {
 }
 
 int32_t PPDPopupControlKRVImageOptions::UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) {
-    if (!m_ptPPDOptions)
-        return 0; // no list, or one whose option the PPD lacks
+    if (!m_ppd.hasRows)
+        return 0; // the menu was never made
     m_ppd.rebuild(ppd, ctrlParentPanelPtr);
     if (PopupView *menu = popup())
         for (int32_t i = 0; i < std::min<int32_t>(menu->numberOfItems(), menuRowCount()); ++i)

@@ -45,13 +45,6 @@ bool PPDSliderBarControlKRVImageOptions::InitializeCtrl(const Bundle *, ppd_file
     return true;
 }
 
-bool PPDSliderBarControlKRVImageOptions::SetExternalValueToUI(const void *value, uint32_t) {
-    if (!value || !views::isEnabled(slider()))
-        return false;
-    showValue(externalInteger(value));
-    return true;
-}
-
 bool PPDSliderBarControlKRVImageOptions::SetValueToTicket(PMPrintSettings, bool) {
     return true;
 }
@@ -149,8 +142,7 @@ int32_t GPPDSliderBarControlKRV::Open() {
 
 bool GPPDSliderBarControlKRV::GetValueToPreset() {
     const int32_t index = m_ppd.presetIndex(m_ptPPDOptions, ctrlParentPanelPtr);
-    if (index < 0 ||
-        !tellHost(m_ppd.kPPDMainKey, PpdBinding::choiceAt(m_paPPDChoices.get(), index)) ||
+    if (index < 0 || !tellHost(m_ppd.kPPDMainKey, PpdBinding::choiceAt(m_ptPPDOptions, index)) ||
         !ctrlDataBlkPtr || !sliderBarIniDataPtr)
         return false;
     ctrlDataBlkPtr->setWord(sliderBarIniDataPtr->maxValue - index);

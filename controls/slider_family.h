@@ -23,8 +23,6 @@ public:
 
     /// The record's range, rows and option from the PPD, and the blocks. @return true
     bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
-    /// @return false, with nothing set, for a missing value and a disabled view
-    bool SetExternalValueToUI(const void *value, uint32_t size) override;
     /// Sends nothing: a slider has no ticket entry of its own. @return true
     bool SetValueToTicket(PMPrintSettings settings, bool withParam) override;
     /// There is no ticket text to make. @return true
@@ -59,8 +57,9 @@ public:
                        const CtrlConstrainInfo *constrain, const CtrlAccessInfo *access,
                        const QString &user, CtrlTag titleControl);
 
-    /// Range, tick marks, title and default from the PPD, range and default also into the record;
-    /// without the option all stays as it is. Reports to the product detection. @return true
+    /// Range, tick marks, title and default from the PPD, range and default also into the record.
+    /// Without the option the record's range stays, without tick marks, and a former title goes.
+    /// Reports to the product detection. @return true
     bool InitializeCtrl(const Bundle *bundle, ppd_file_t *ppd) override;
     /// @param value  receives the position of the row with that keyword, 0 without one
     /// @return whether there is one

@@ -38,7 +38,7 @@ void RGBCorrectionRowList::ReInitializeMenu() {
 }
 
 int32_t RGBCorrectionRowList::UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) {
-    if (!m_ptPPDOptions)
+    if (!m_ppd.hasRows)
         return 0;
     m_ppd.rebuild(ppd, ctrlParentPanelPtr);
     if (PopupView *menu = popup())

@@ -87,4 +87,5 @@ void PopupView::activate(int index) {
     m_before = m_shown;
     m_shown = index;
     sendAction();
+    m_before.reset();
 }

@@ -4,6 +4,8 @@
 
 #include <QComboBox>
 
+#include <optional>
+
 /// A popup menu. Items have a title, a represented text and an enabled flag of their own.
 ///
 /// Only a person's choice of another item sends the action; picking the item already shown, the
@@ -29,8 +31,9 @@ public:
     void selectItemAtIndex(int index);
     /// @return the selected item from 0, or -1
     int indexOfSelectedItem() const { return currentIndex(); }
-    /// The item that was selected before a person's latest act; for a refused choice to go back to.
-    int itemBeforeAct() const { return m_before; }
+    /// While the action of a person's act is sent: the item that was selected before, -1 for none;
+    /// for a refused choice to go back to. Nothing at any other time.
+    std::optional<int> itemBeforeAct() const { return m_before; }
     /// What a person does with the menu: the action is sent if the selection changes.
     /// @return false, with nothing done, if view or item is disabled, hidden or missing
     bool chooseItem(int index);
@@ -44,6 +47,6 @@ protected:
 private:
     void activate(int index);
 
-    int m_shown = -1;  ///< the item that was selected when a person's act began
-    int m_before = -1; ///< the same, kept beyond the act
+    int m_shown = -1; ///< the item that was selected when a person's act began
+    std::optional<int> m_before;
 };

@@ -88,6 +88,8 @@ TEST_F(BaseControlTest, PreferencesLiveWithThePrinterOnOlderSystemsOnly) {
     EXPECT_TRUE(control->GetValueFromPreference());
     EXPECT_EQ(control->value(), "7");
     EXPECT_TRUE(control->SetValueToPreferenceWithPrinterSettings());
+    control->setValue("a\xC3"); // cut inside a character
+    EXPECT_FALSE(control->SetValueToPreferenceWithPrinterSettings());
     EXPECT_EQ(host->settings.find("QueuePref")->value, "7");
 }
 

@@ -97,6 +97,16 @@ TEST_F(PopupTest, RefusedChoiceGoesBackToTheItemShown) {
     host->refuses = false;
     menu(type)->chooseItem(2);
     EXPECT_EQ(log, QStringList({"update r"}));
+    // Without an act of the view, to the item that the live block tells.
+    host->refuses = true;
+    menu(type)->selectItemAtIndex(0);
+    type->GetValueFromUI()->setWord(3);
+    type->UIEventHandler();
+    EXPECT_EQ(shown(type), 2);
+    panel.Open(); // the mark
+    menu(mode)->selectItemAtIndex(2);
+    mode->RequestPopupList();
+    EXPECT_EQ(shown(mode), 0);
 }
 
 TEST_F(PopupTest, ChangedValueIsSentOnceAndARefusalKeepsIt) {
