@@ -130,7 +130,7 @@ void PopupControlKRVImageOptions::RequestPopupList() {
     RequestControlAction();
 }
 
-bool PopupControlKRVImageOptions::isChoiceConflicted(std::string key, const QString &option,
+bool PopupControlKRVImageOptions::isChoiceConflicted(const std::string &key, const QString &option,
                                                      const QString &choice, ppd_file_t *ppd) const {
     const hash_multimap *table = ctrlParentPanelPtr ? ctrlParentPanelPtr->Getxppd() : nullptr;
     if (!table || !ppd)

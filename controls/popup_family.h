@@ -45,7 +45,7 @@ public:
 
     /// Whether the constraint table's entries under a key hold the given pair; marks play no part.
     /// @return false without a table or a PPD
-    bool isChoiceConflicted(std::string key, const QString &option, const QString &choice,
+    bool isChoiceConflicted(const std::string &key, const QString &option, const QString &choice,
                             ppd_file_t *ppd) const;
 
 protected:

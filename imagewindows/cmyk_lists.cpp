@@ -1,10 +1,6 @@
 #include "imagewindows/cmyk_lists.h"
 
-namespace {
-
-const QString kNone = QStringLiteral("None");
-
-} // namespace
+#include "ppd/ppd_keys.h"
 
 const CtrlTag cmykcolorcorrectionConstrain[] = {
     &targetpaperIAPopupButtonTag,
@@ -21,7 +17,7 @@ bool CMYKCorrectionListCtrlIAKRV::InitializeCtrl(const Bundle *bundle, ppd_file_
     m_rows.clear();
     for (int32_t i = 0; i < m_ppd.rowCount(); ++i)
         m_rows.push_back(m_given->disableTable->row(i));
-    if (const int32_t none = GetIndexByStr(kNone); none >= 0 && none < m_ppd.rowCount())
+    if (const int32_t none = GetIndexByStr(kNoneChoice); none >= 0 && none < m_ppd.rowCount())
         m_rows[static_cast<size_t>(none)] = cmykcolorcorrectionConstrain;
     m_table.rows = m_rows;
     m_constrain = *m_given;
@@ -41,5 +37,5 @@ bool CMYKTargetMediaListCtrlIAKRV::ToGetSummaryText() {
         return false;
     PPDPopupControlKRVImageOptions *list = panel->getcmykccPopupList();
     const QString choice = list ? list->GetUISelectStr() : QString();
-    return !choice.isNull() && choice != kNone;
+    return !choice.isNull() && choice != kNoneChoice;
 }

@@ -153,7 +153,7 @@ void ColorBalanceWndKRV::InitializePaneConstrains() {
 }
 
 int32_t ColorBalanceWndKRV::ActivateWindow() {
-    if (!windowRef || isRunning())
+    if (!canOpen())
         return 0;
     const bool actived = IsActived();
     SetCurrentValueToUI();

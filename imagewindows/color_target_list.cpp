@@ -25,7 +25,7 @@ void ColorTargetListCtrlKRV::showValue(int32_t value) {
 }
 
 bool ColorTargetListCtrlKRV::SetExternalValueToUI(const void *value, uint32_t) {
-    if (!value || !popup())
+    if (!value || !popup() || !ctrlDataBlkPtr)
         return false;
     showValue(externalInteger(value));
     return true;

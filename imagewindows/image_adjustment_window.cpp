@@ -160,7 +160,7 @@ void ImageAdjustmentWindow::DoGroupBoxHideCheck(ppd_file_t *ppd) {
 }
 
 int32_t ImageAdjustmentWindow::ActivateWindow() {
-    if (!windowRef || !fCtrlGroupArray || isRunning())
+    if (!canOpen())
         return 0;
     SetCurrentValueToUI();
     SyncMarkedPPD();
@@ -183,8 +183,7 @@ void ImageAdjustmentWindow::RestoreMarkedPPD() {
         std::find(std::begin(lists), std::end(lists), nullptr) != std::end(lists))
         return;
     for (PPDPopupControlKRVImageOptions *list : lists)
-        if (fCtrlGroupArray) // the host, which is told each mark, may end the panel
-            list->RestorePPD(m_ptCurrentPPD);
+        list->RestorePPD(m_ptCurrentPPD);
     SyncMarkedPPD();
 }
 

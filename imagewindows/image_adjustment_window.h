@@ -41,7 +41,8 @@ public:
     /// @param theWinTitleStr  the localisation key of the title
     void CreatePanel(QWidget *window, const QString &theWinTitleStr);
     /// Initialises each control twice: without a constraint table, then with the window's new one,
-    /// from the cache file that the PPD names or from its constraints. @return 0
+    /// from the cache file that the PPD names or from its constraints.
+    /// @return 0, or the failure of a sweep over the controls
     int32_t InitializeUserPane(const Bundle *bundle, ppd_file_t *ppd) override;
     int32_t ReInitializeUserPane() override;
     using PopupWinInPanelKRVImageOptions::InitializeUserPaneTitle;

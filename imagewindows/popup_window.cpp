@@ -6,7 +6,7 @@
 #include "services/bundle_identity.h"
 
 PopupWinInPanelKRVImageOptions::~PopupWinInPanelKRVImageOptions() {
-    endRun();
+    PopupWinInPanelKRVImageOptions::endRun();
     BasePrintPanelKRVImageOptions::terminate(); // the controls let go of their views first
     delete m_form;
 }
@@ -59,7 +59,7 @@ int32_t PopupWinInPanelKRVImageOptions::ReInitializeUserPane() {
 }
 
 int32_t PopupWinInPanelKRVImageOptions::ActivateWindow() {
-    if (!windowRef || isRunning())
+    if (!canOpen())
         return 0;
     ReInitializeUserPane();
     SetUIDataToIniData();
@@ -92,6 +92,11 @@ int32_t PopupWinInPanelKRVImageOptions::DeactivateWindow() {
 
 bool PopupWinInPanelKRVImageOptions::isRunning() const {
     return windowRef && windowRef->isVisible();
+}
+
+// Without controls no button could end the run.
+bool PopupWinInPanelKRVImageOptions::canOpen() const {
+    return windowRef && fCtrlGroupArray && !isRunning();
 }
 
 void PopupWinInPanelKRVImageOptions::endRun() {

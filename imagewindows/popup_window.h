@@ -26,7 +26,8 @@ public:
     /// @return 0
     virtual int32_t ReInitializeUserPane();
     /// Shows the committed values and runs the window until a button ends it. The window object may
-    /// be gone when this returns. Does nothing without a window. @return 0
+    /// be gone when this returns. Does nothing
+    /// without a window, without controls and for a window that is up. @return 0
     virtual int32_t ActivateWindow();
     /// @return 0
     virtual int32_t ReleaseWindow();
@@ -72,10 +73,12 @@ protected:
     ppd_file_t *currentPPD = nullptr;
     bool isActived = false;
 
-    /// Whether the window stands, with its loop running.
-    bool isRunning() const;
+    /// Whether there is a window with controls, and it isn't up.
+    bool canOpen() const;
 
 private:
+    /// Whether the window stands, with its loop running.
+    bool isRunning() const;
     void endRun() override;
 
     QPointer<ModalWindow> m_form;

@@ -1,13 +1,13 @@
 #include "imagewindows/rgb_correction_list.h"
 
 #include "platform/views/popup_view.h"
+#include "ppd/ppd_keys.h"
 #include "ppd/ppd_query.h"
 
 #include <algorithm>
 
 namespace {
 
-const QString kNone = QStringLiteral("None");
 const QString kPerceptual = QStringLiteral("Perceptual");
 
 } // namespace
@@ -17,7 +17,7 @@ void RGBCorrectionRowList::ReInitializeMenu() {
     if (!menu)
         return;
     menu->removeAllItems();
-    const int32_t none = GetSFStringArrayIndex(kNone);
+    const int32_t none = GetSFStringArrayIndex(kNoneChoice);
     const int32_t withoutItem = std::max(none, 0);
     for (int32_t i = 0; i < menuRowCount(); ++i) {
         const ChoiceRow &row = m_ppd.ctrlPPDInfoArrayRef[i];
@@ -108,7 +108,7 @@ bool RGBCorrectionListCtrlKRV::SetValueToTicket(PMPrintSettings, bool) {
     int32_t value = popup() ? GetCurrentControlArrayNumber() + 1 : ctrlDataBlkPtr->word();
     if (ctrlParentPanelPtr->isPrinting() && (!ctrlParentPanelPtr->IsAdvancedSettingAvailable() ||
                                              !ctrlParentPanelPtr->IsColorModeAvailable())) {
-        const int32_t none = GetSFStringArrayIndex(kNone);
+        const int32_t none = GetSFStringArrayIndex(kNoneChoice);
         if (!PpdBinding::choiceAt(m_paPPDChoices.get(), none).isNull())
             value = none;
     }

@@ -10,7 +10,8 @@
 class RGBCorrectionRowList : public GPPDListCtrlKRV {
 public:
     /// Menu := rows but "None". With a choice "Perceptual" the item behind "None" is selected, and
-    /// the index of "None" becomes the record's default, which the PPD's own then replaces.
+    /// the index of "None" becomes the record's default, which the PPD's own replaces unless it is
+    /// row 0.
     void ReInitializeMenu() override;
     /// Enables and disables item i by row i + 1.
     int32_t UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) override;

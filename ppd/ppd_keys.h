@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 /// The keywords of the maker's PPD files. The panels of one driver share the list; this panel asks
 /// only for some of them.
 ///
@@ -132,6 +134,8 @@ inline constexpr const char *kQZProductTypeImageOptions = "QZXImageOptionsSettin
 inline constexpr const char *kQZCDFFileKey = "QZXCDFSetting";
 inline constexpr const char *kQZMailboxSetting = "QZXMailBoxSettings";
 inline constexpr const char *kQZInvalidateColorProfile = "QZInvalidateColorProfile";
+/// The choice of a correction that isn't made.
+inline const QString kNoneChoice = QStringLiteral("None");
 inline constexpr const char *KVendorPPDPrefix = "QZ";
 inline constexpr const char *KVendorPPDValue = "QZ";
 

@@ -149,7 +149,8 @@ int GetUITitleFromPPD(ppd_file_t *ppd, const char *key, QString &out) {
 void GetValueFromPPDByIndex(ppd_file_t *ppd, const char *key, char *out, int index) {
     const ppd_option_t *option = findOption(ppd, key);
     if (option && out && index >= 0 && index < option->num_choices)
-        std::strcpy(out, option->choices[index].choice);
+        std::memcpy(out, option->choices[index].choice,
+                    std::strlen(option->choices[index].choice) + 1);
 }
 
 std::unique_ptr<PDEChoiceArray> ArrayFromPPDOption(ppd_option_t *option) {

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdio>
@@ -79,9 +80,9 @@ void writeCache(const CommandLine &line) {
         throw ToolError(line.cache, refusal);
     const PpdFile ppd = openPpd(line.ppd);
     std::list<std::string> keys = watchedKeys(line.keys);
-    std::vector<std::string> names;
-    for (const QString &name : line.sections.isEmpty() ? kPanelSections : line.sections)
-        names.push_back(name.toStdString());
+    const QStringList &wanted = line.sections.isEmpty() ? kPanelSections : line.sections;
+    std::vector<std::string> names(wanted.size());
+    std::ranges::transform(wanted, names.begin(), &QString::toStdString);
     std::vector<x_PDEConstr> sections;
     for (std::string &name : names)
         sections.push_back({&name, &keys});

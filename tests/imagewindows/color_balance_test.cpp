@@ -6,6 +6,7 @@
 #include "platform/views/alert.h"
 #include "ppd/ppd_keys.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 
 #include <random>
@@ -124,6 +125,18 @@ TEST_F(ColorBalanceTest, TabKeyAndWhatNoPersonCanEnter) {
         press(gClrBlncCnclPushID);
     });
     EXPECT_EQ(control(gHghDnstLarrID)->GetValueFromControl()->word(), 0) << "nothing was kept";
+}
+
+TEST_F(ColorBalanceTest, OpensNothingWithoutControls) {
+    balance.terminate(); // no button could end the run
+    bool opened = false;
+    QTimer::singleShot(0, form, [&] {
+        opened = form->isVisible();
+        balance.DeactivateWindow();
+    });
+    EXPECT_EQ(balance.ActivateWindow(), 0);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(opened);
 }
 
 } // namespace
