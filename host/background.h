@@ -1,0 +1,51 @@
+#pragma once
+
+#include "host/host_error.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
+#include <QPointer>
+#include <QThreadPool>
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace host {
+
+/// Runs work on another thread, and hands its result back on the thread that asked.
+///
+/// The work may throw HostError and must not touch widgets or the context. An object that is gone
+/// when the work ends is told nothing; the result is destroyed then. Work that waits for a server
+/// has to have a deadline, since the program's end waits for it.
+/// @param context  lives on the calling thread, which runs an event loop
+/// @param work     returns the result, any type that can be moved
+/// @param done     called with the result
+/// @param failed   called with the error's text instead
+template <typename Work, typename Done>
+void inBackground(QObject *context, Work work, Done done,
+                  std::function<void(const QString &)> failed) {
+    QPointer<QObject> asker(context);
+    QThreadPool::globalInstance()->start([asker, work = std::move(work), done = std::move(done),
+                                          failed = std::move(failed)]() mutable {
+        // A pointer to the asker is only looked at on its own thread; the application outlives all
+        // work.
+        const auto answer = [&asker](auto call) {
+            QMetaObject::invokeMethod(
+                qApp,
+                [asker, call = std::move(call)]() mutable {
+                    if (asker)
+                        call();
+                },
+                Qt::QueuedConnection);
+        };
+        try {
+            auto result = std::make_shared<decltype(work())>(work());
+            answer([result, done = std::move(done)]() mutable { done(std::move(*result)); });
+        } catch (const HostError &error) {
+            answer([text = error.text(), failed = std::move(failed)] { failed(text); });
+        }
+    });
+}
+
+} // namespace host
