@@ -28,20 +28,47 @@ QByteArray printerUri(const QString &queue) {
 
 } // namespace
 
-CupsServer::CupsServer(const CupsDeadlines &deadlines)
-    : m_name(QString::fromLocal8Bit(cupsServer())), m_deadlines(deadlines) {
+CupsServer::CupsServer(const CupsDeadlines &deadlines, const PasswordSource &password)
+    : m_name(QString::fromLocal8Bit(cupsServer())), m_deadlines(deadlines), m_password(password) {
+    // libcups keeps the callback for each thread; all requests of this object come on one.
+    cupsSetPasswordCB2(
+        [](const char *prompt, http_t *, const char *, const char *, void *server) -> const char * {
+            return static_cast<CupsServer *>(server)->answerPrompt(prompt);
+        },
+        this);
+    connect();
+}
+
+CupsServer::~CupsServer() {
+    if (!m_givenPassword.isNull())
+        cupsSetUser(nullptr);
+    std::fill(m_givenPassword.begin(), m_givenPassword.end(), '\0');
     cupsSetPasswordCB2([](const char *, http_t *, const char *, const char *,
                           void *) -> const char * { return nullptr; },
                        nullptr);
+}
+
+const char *CupsServer::answerPrompt(const char *prompt) {
+    if (!m_password)
+        return nullptr;
+    const std::optional<Credentials> given = m_password(QString::fromUtf8(prompt));
+    if (!given)
+        return nullptr;
+    m_givenPassword = given->password.toUtf8();
+    cupsSetUser(given->user.toUtf8().constData());
+    return m_givenPassword.constData();
+}
+
+void CupsServer::connect() {
     m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                              deadlines.connectMs, nullptr));
+                              m_deadlines.connectMs, nullptr));
     if (!m_http)
         throw HostError(QStringLiteral("CUPS server ") + m_name,
                         QStringLiteral("no CUPS server answers there: ") +
                             QString::fromUtf8(cupsLastErrorString()));
     // A reply that is late is none: the callback's 0 gives the request up.
     httpSetTimeout(
-        m_http.get(), deadlines.replySeconds, [](http_t *, void *) { return 0; }, nullptr);
+        m_http.get(), m_deadlines.replySeconds, [](http_t *, void *) { return 0; }, nullptr);
 }
 
 QString CupsServer::failure() const {
@@ -139,7 +166,7 @@ QByteArray CupsServer::ppd(const QString &queue) {
     return text;
 }
 
-int CupsServer::submit(const CupsJob &job) {
+int CupsServer::submit(const CupsJob &job, const std::function<bool(qint64)> &progress) {
     requireQueue(job.queue);
     const QByteArray queue = job.queue.toUtf8();
     cups_option_t *list = nullptr;
@@ -152,24 +179,67 @@ int CupsServer::submit(const CupsJob &job) {
     if (id == 0)
         throw HostError(job.queue, failure());
 
+    bool givenUp = false;
     const auto send = [&] {
         if (cupsStartDocument(m_http.get(), queue.constData(), id, job.title.toUtf8().constData(),
                               job.format, 1) != HTTP_STATUS_CONTINUE)
             return false;
         constexpr qsizetype kBlock = 64 << 10;
-        for (qsizetype at = 0; at < job.document.size(); at += kBlock)
+        for (qsizetype at = 0; at < job.document.size(); at += kBlock) {
+            givenUp = progress && !progress(at);
+            if (givenUp)
+                return false;
             if (cupsWriteRequestData(m_http.get(), job.document.constData() + at,
                                      size_t(qMin(kBlock, job.document.size() - at))) !=
                 HTTP_STATUS_CONTINUE)
                 return false;
+        }
         return cupsFinishDocument(m_http.get(), queue.constData()) <= IPP_STATUS_OK_CONFLICTING;
     };
     if (!send()) {
-        const QString reason = failure();
+        const QString reason = givenUp ? QStringLiteral("the job was cancelled") : failure();
+        if (givenUp) { // the server still waits for the rest on this connection
+            m_http.reset();
+            connect();
+        }
         cupsCancelJob2(m_http.get(), queue.constData(), id, 0);
         throw HostError(job.queue, reason);
     }
     return id;
+}
+
+JobState CupsServer::jobState(int job) {
+    ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                     "/jobs/%d", job);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    static const char *const wanted[] = {"job-state", "job-printer-state-message",
+                                         "job-media-sheets-completed"};
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(wanted)), nullptr, wanted);
+    const Reply reply(cupsDoRequest(m_http.get(), request, "/"));
+    const QString subject = QStringLiteral("job %1").arg(job);
+    if (!reply || ippGetStatusCode(reply.get()) > IPP_STATUS_OK_CONFLICTING)
+        throw HostError(subject, failure());
+    JobState state;
+    if (ipp_attribute_t *found = ippFindAttribute(reply.get(), "job-state", IPP_TAG_ENUM))
+        state.state = static_cast<ipp_jstate_t>(ippGetInteger(found, 0));
+    if (ipp_attribute_t *found =
+            ippFindAttribute(reply.get(), "job-printer-state-message", IPP_TAG_TEXT))
+        state.message = QString::fromUtf8(ippGetString(found, 0, nullptr));
+    if (ipp_attribute_t *found =
+            ippFindAttribute(reply.get(), "job-media-sheets-completed", IPP_TAG_INTEGER))
+        state.pages = ippGetInteger(found, 0);
+    return state;
+}
+
+void CupsServer::cancelJob(const QString &queue, int job) {
+    if (cupsCancelJob2(m_http.get(), queue.toUtf8().constData(), job, 0) >
+        IPP_STATUS_OK_CONFLICTING)
+        throw HostError(QStringLiteral("job %1").arg(job), failure());
 }
 
 } // namespace host

@@ -1,0 +1,117 @@
+#include "host/dialog/job_sender.h"
+
+#include "host/background.h"
+
+#include <QSemaphore>
+
+namespace host {
+namespace {
+
+constexpr int kProgressMs = 100;
+constexpr int kFollowMs = 1500;
+constexpr int kPatienceMs = 100; ///< between two looks whether an asked person was left alone
+
+} // namespace
+
+JobSender::JobSender(PasswordSource askPassword, QObject *parent)
+    : QObject(parent), m_askPassword(std::move(askPassword)) {
+    connect(&m_timer, &QTimer::timeout, this, &JobSender::look);
+}
+
+JobSender::~JobSender() {
+    if (m_job == 0)
+        m_shared->givenUp = true;
+}
+
+/// The sending thread waits for the person's answer, but no longer than this object lives.
+PasswordSource JobSender::passwordFromHere() {
+    if (!m_askPassword)
+        return {};
+    struct Answer {
+        QSemaphore given;
+        std::optional<Credentials> credentials;
+    };
+    return [asker = QPointer<JobSender>(this), shared = m_shared](const QString &prompt) {
+        const auto answer = std::make_shared<Answer>();
+        QMetaObject::invokeMethod(
+            qApp,
+            [asker, answer, prompt] {
+                if (asker)
+                    answer->credentials = asker->m_askPassword(prompt);
+                answer->given.release();
+            },
+            Qt::QueuedConnection);
+        while (!answer->given.tryAcquire(1, kPatienceMs))
+            if (shared->givenUp)
+                return std::optional<Credentials>();
+        return answer->credentials;
+    };
+}
+
+void JobSender::send(const CupsJob &job) {
+    m_queue = job.queue;
+    m_total = job.document.size();
+    m_timer.start(kProgressMs);
+    inBackground(
+        this,
+        [job, shared = m_shared, password = passwordFromHere()] {
+            return CupsServer({}, password).submit(job, [&shared](qint64 sent) {
+                shared->sent = sent;
+                return !shared->givenUp;
+            });
+        },
+        [this](int id) {
+            m_job = id;
+            m_timer.start(kFollowMs);
+            emit progressed(m_total, m_total);
+            emit sent(id);
+            if (m_shared->givenUp) // too late for the sending
+                cancel();
+        },
+        [this](const QString &reason) {
+            m_timer.stop();
+            emit failed(reason);
+        });
+}
+
+void JobSender::cancel() {
+    m_shared->givenUp = true;
+    if (m_job == 0)
+        return;
+    inBackground(
+        this,
+        [queue = m_queue, job = m_job, password = passwordFromHere()] {
+            CupsServer({}, password).cancelJob(queue, job);
+            return true;
+        },
+        [this](bool) { look(); }, [this](const QString &reason) { emit followFailed(reason); });
+}
+
+void JobSender::look() {
+    if (m_job == 0) {
+        emit progressed(m_shared->sent, m_total);
+        return;
+    }
+    if (m_asking)
+        return;
+    m_asking = true;
+    inBackground(
+        this, [job = m_job] { return CupsServer().jobState(job); },
+        [this](const JobState &state) {
+            m_asking = false;
+            if (state.isFinished())
+                m_timer.stop();
+            if (m_hasState && state.state == m_state.state && state.message == m_state.message &&
+                state.pages == m_state.pages)
+                return;
+            m_hasState = true;
+            m_state = state;
+            emit stateChanged(state);
+        },
+        [this](const QString &reason) {
+            m_asking = false;
+            emit followFailed(reason);
+        });
+}
+
+} // namespace host
