@@ -83,10 +83,9 @@ void writeCache(const CommandLine &line) {
     const QStringList &wanted = line.sections.isEmpty() ? kPanelSections : line.sections;
     std::vector<std::string> names(wanted.size());
     std::ranges::transform(wanted, names.begin(), &QString::toStdString);
-    std::vector<x_PDEConstr> sections;
-    for (std::string &name : names)
-        sections.push_back({&name, &keys});
-    sections.push_back({});
+    std::vector<x_PDEConstr> sections(names.size() + 1); // the last one ends them
+    for (size_t i = 0; i < names.size(); ++i)
+        sections[i] = {&names[i], &keys};
 
     for (int signal : {SIGINT, SIGTERM, SIGHUP})
         if (std::signal(signal, askToStop) == SIG_IGN)
