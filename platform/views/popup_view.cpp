@@ -5,10 +5,29 @@
 #include <QStandardItemModel>
 #include <QWheelEvent>
 
+namespace {
+
+constexpr int kIconGap = 4; // of Qt's own measure
+
+} // namespace
+
 PopupView::PopupView(QWidget *parent) : QComboBox(parent) {
     views::installAccessibility();
     setFocusPolicy(Qt::StrongFocus); // the wheel doesn't give focus
     connect(this, &QComboBox::activated, this, &PopupView::activate);
+}
+
+// As AdjustToMinimumContentsLengthWithIcon asks, but setting that makes the popup's window at once,
+// for each list of a panel.
+QSize PopupView::minimumSizeHint() const {
+    QSize size = QComboBox::minimumSizeHint();
+    if (minimumContentsLength() > 0)
+        size.rwidth() += iconSize().width() + kIconGap;
+    return size;
+}
+
+QSize PopupView::sizeHint() const {
+    return minimumContentsLength() > 0 ? minimumSizeHint() : QComboBox::sizeHint();
 }
 
 void PopupView::removeAllItems() {

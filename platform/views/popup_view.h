@@ -38,6 +38,10 @@ public:
     /// @return false, with nothing done, if view or item is disabled, hidden or missing
     bool chooseItem(int index);
 
+    /// With a minimum contents length: the width of so many characters, whatever the items are.
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+
     void showPopup() override;
 
 protected:
