@@ -46,6 +46,15 @@ void BaseControlKRVImageOptions::SetControlPtr(QWidget *view) {
     if (former && ControlPtr != view)
         former->setAction({});
     ControlPtr = view;
+    m_viewTag.reset();
+}
+
+int BaseControlKRVImageOptions::viewTag() const {
+    if (!ControlPtr)
+        return 0;
+    if (!m_viewTag)
+        m_viewTag = views::tag(ControlPtr);
+    return *m_viewTag;
 }
 
 void BaseControlKRVImageOptions::SetParenetPanel(ControlPanel *panel) {

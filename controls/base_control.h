@@ -166,6 +166,8 @@ public:
     virtual void RequestControlAction();
 
     QWidget *GetControlPtr() const { return ControlPtr; }
+    /// @return the view's tag, read when it is first asked for; 0 without a view or a tag
+    int viewTag() const;
     PDEChoiceArray *getPPDChoices() const { return m_paPPDChoices.get(); }
     void setPPDChoices(std::unique_ptr<PDEChoiceArray> choices) {
         m_paPPDChoices = std::move(choices);
@@ -194,6 +196,7 @@ protected:
     void bindOption(ppd_file_t *ppd, const char *key);
 
     QPointer<QWidget> ControlPtr;
+    mutable std::optional<int> m_viewTag; ///< of ControlPtr, once it was asked for
     int32_t ctrlInWhichGroup = -1;
     ControlPanel *ctrlParentPanelPtr = nullptr;
     uint32_t ctrlDataSize = 0;

@@ -113,7 +113,7 @@ int32_t RadioButtonKRVImageOptions::GetRadioIndex() const {
         return -1;
     const RadioGroupKRVImageOptions::Buttons &buttons = RadioGrpPtr->buttons();
     for (size_t i = 0; i < buttons.size(); ++i)
-        if (views::tag(buttons[i]->ControlPtr) == views::tag(ControlPtr))
+        if (buttons[i]->viewTag() == viewTag())
             return static_cast<int32_t>(i);
     return -1;
 }
@@ -123,7 +123,7 @@ RadioButtonKRVImageOptions *RadioButtonKRVImageOptions::GetAnotherRadioCtrlFromG
     if (RadioGrpPtr) {
         for (RadioButtonKRVImageOptions *other : RadioGrpPtr->buttons()) {
             last = other;
-            if (views::tag(other->ControlPtr) != views::tag(ControlPtr))
+            if (other->viewTag() != viewTag())
                 break;
         }
     }

@@ -93,6 +93,9 @@ std::optional<Book> bookUnder(plist_t books, const QString &identifier) {
 
 void add(const Book &book) {
     const List root = readList();
+    if (unsavedList.isEmpty() && bookUnder(item(root.get(), kBooks), book.identifier) == book &&
+        textsOf(item(root.get(), kOrder)).contains(book.identifier))
+        return; // it stands there just so
     plist_t titles = plist_new_array();
     for (const QString &title : book.titles)
         plist_array_append_item(titles, newText(title));

@@ -14,6 +14,8 @@ struct Book {
     QString bundleDirectory; ///< absolute path
     QUrl url;                ///< of the book's folder, in the user's language
     QStringList titles;
+
+    bool operator==(const Book &) const = default;
 };
 
 /// Adds a book, or replaces the entry of its identifier. What else stands in the list stays. The

@@ -121,7 +121,7 @@ BaseControlKRVImageOptions *BasePrintPanelKRVImageOptions::GetPanelControl(CtrlT
     for (const auto &registry : {&fCtrlGroupArray, &fCtrlInstallableGroupArray})
         if (*registry)
             for (const auto &control : **registry)
-                if (control->GetControlPtr() && views::tag(control->GetControlPtr()) == *tag)
+                if (control->GetControlPtr() && control->viewTag() == *tag)
                     return control.get();
     if (fWindowGroupArray)
         for (BasePrintPanelKRVImageOptions *window : *fWindowGroupArray)
