@@ -30,13 +30,13 @@ QByteArray printerUri(const QString &queue) {
 
 CupsServer::CupsServer(const CupsDeadlines &deadlines, const PasswordSource &password)
     : m_name(QString::fromLocal8Bit(cupsServer())), m_deadlines(deadlines), m_password(password) {
+    connect();
     // libcups keeps the callback for each thread; all requests of this object come on one.
     cupsSetPasswordCB2(
         [](const char *prompt, http_t *, const char *, const char *, void *server) -> const char * {
             return static_cast<CupsServer *>(server)->answerPrompt(prompt);
         },
         this);
-    connect();
 }
 
 CupsServer::~CupsServer() {
