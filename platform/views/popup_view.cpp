@@ -2,6 +2,7 @@
 
 #include "platform/views/accessibility.h"
 
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QWheelEvent>
 
@@ -105,6 +106,8 @@ void PopupView::activate(int index) {
         return;
     m_before = m_shown;
     m_shown = index;
+    const QPointer<PopupView> self(this);
     sendAction();
-    m_before.reset();
+    if (self) // the action may give the view up
+        m_before.reset();
 }
