@@ -39,7 +39,8 @@ struct OptionRow {
 
 const OptionRow kOptions[] = {
     {"--ppd", kDialog | kPrint | kInspect | kDrive, &CommandLine::ppd, nullptr},
-    {"--queue", kDialog | kPrint, &CommandLine::queue, nullptr},
+    {"--queue", kDialog | kPrint | kList, &CommandLine::queue, nullptr},
+    {"--preset", kPrint, &CommandLine::preset, nullptr},
     {"--bundle", kDialog | kPrint | kInspect | kDrive | kList, &CommandLine::bundle, nullptr},
     {"--language", kDialog | kPrint | kInspect | kDrive, &CommandLine::language, nullptr},
     {"--to", kPrint, &CommandLine::to, nullptr},
@@ -95,6 +96,10 @@ void checkTogether(const CommandLine &line) {
         if (line.ppd.isNull())
             wrong(QStringLiteral("drive"), "needs --ppd FILE");
         break;
+    case Command::List:
+        if (!line.presets && !line.queue.isNull())
+            wrong(QStringLiteral("--queue"), "needs --presets");
+        break;
     default:
         break;
     }
@@ -122,6 +127,8 @@ CommandLine parseCommandLine(const QStringList &arguments) {
             optionsEnded = true;
         } else if (!optionsEnded && argument == u"--shown" && line.command == Command::Print) {
             line.shown = true;
+        } else if (!optionsEnded && argument == u"--presets" && line.command == Command::List) {
+            line.presets = true;
         } else if (!optionsEnded && argument.startsWith(u'-')) {
             const auto row = std::find_if(std::begin(kOptions), std::end(kOptions),
                                           [&](const OptionRow &o) { return argument == o.name; });
@@ -145,12 +152,14 @@ CommandLine parseCommandLine(const QStringList &arguments) {
 QString usage() {
     return QStringLiteral(R"(usage:
   pde-host dialog  [--ppd FILE | --queue NAME] [--bundle DIR] [DOCUMENT]
-  pde-host print   --ppd FILE | --queue NAME [--bundle DIR] [-o KEY=CHOICE]...
-                   [--setting KEY=VALUE]... [--to FILE.ps] [--ticket FILE.json]
+  pde-host print   --ppd FILE | --queue NAME [--bundle DIR] [--preset NAME]
+                   [-o KEY=CHOICE]... [--setting KEY=VALUE]...
+                   [--to FILE.ps] [--ticket FILE.json]
                    [--shown [--summary FILE.json] [--shot FILE.png]] DOCUMENT
   pde-host inspect --ppd FILE [--bundle DIR]
   pde-host drive   --ppd FILE [--bundle DIR] [-o KEY=CHOICE]... [--setting KEY=VALUE]...
   pde-host list    [--bundle DIR]
+  pde-host list    --presets [--queue NAME]
 
   dialog   shows the print dialog; without a queue, that of CUPS' default queue
   print    prints unattended: to a file, or with --queue and no --to to CUPS
@@ -158,11 +167,13 @@ QString usage() {
   drive    obeys JSON commands from standard input, one to a line: open, state,
            summary, select, click, step, slide, type, mark, setting, willShow,
            restore, shouldPrint, save, print, help, shot, alert, close
-  list     prints the queues of CUPS, and which have the panel
+  list     prints the queues of CUPS, and which have the panel; or the presets
+           that are kept for queues, or for one
 
   --ppd FILE            a PPD file stands for the queue
   --queue NAME          a queue of CUPS
   --bundle DIR          the panel's bundle; else the one beside the program
+  --preset NAME         a preset of the queue goes before -o and --setting
   --language CODE       language of the panel, such as "de"
   -o KEY=CHOICE         marks a PPD choice before the panel opens
   --setting KEY=VALUE   puts a value into the print settings

@@ -21,7 +21,9 @@ struct CommandLine {
     QString shot;     ///< PNG file for a picture of the panel's window
     QString language; ///< language code, such as "de"
     QString document; ///< PostScript or PDF file
+    QString preset;   ///< name of a preset of the queue
     bool shown = false;
+    bool presets = false;                    ///< list presets instead of queues
     QList<QPair<QString, QString>> marks;    ///< PPD option and choice, in order
     QList<QPair<QString, QString>> settings; ///< key and value, in order
 };

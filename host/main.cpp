@@ -3,6 +3,7 @@
 #include "host/drive.h"
 #include "host/host_error.h"
 #include "host/inspect.h"
+#include "host/presets/preset_commands.h"
 #include "host/print.h"
 #include "platform/bundle.h"
 
@@ -94,7 +95,10 @@ void run(const host::CommandLine &line) {
         host::drive(line);
         break;
     case Command::List:
-        host::listQueues(line);
+        if (line.presets)
+            host::listPresets(line);
+        else
+            host::listQueues(line);
         break;
     }
 }

@@ -3,6 +3,7 @@
 #include "host/command_line.h"
 #include "host/cups_server.h"
 #include "host/host_error.h"
+#include "host/presets/preset_commands.h"
 
 #include <QVBoxLayout>
 #include <QWidget>
@@ -27,6 +28,7 @@ void placeView(QBoxLayout *layout, QWidget *view) {
 
 PanelStage::PanelStage(const CommandLine &line, PDEPlugin &plugin)
     : PanelStage(openSource(line), plugin) {
+    m_jobOptions = useNamedPreset(line, *this);
     markChoices(m_source, line.marks);
     for (const auto &[key, value] : line.settings)
         if (PMPrintSettingsSetValue(m_callback->printSettings(), key, value, false) != kPMNoError)

@@ -3,6 +3,9 @@
 #include "host/panel_session.h"
 #include "host/ppd_source.h"
 
+#include <QMap>
+#include <QString>
+
 #include <memory>
 
 class QBoxLayout;
@@ -18,7 +21,7 @@ struct CommandLine;
 /// The dialog shows panels in a window of its own; every other command shows them here.
 class PanelStage {
 public:
-    /// Opens the PPD, marks the choices and puts the settings of the command line in.
+    /// Opens the PPD and applies what the command line names: a preset, then choices and settings.
     /// @throw HostError
     PanelStage(const CommandLine &line, PDEPlugin &plugin);
     /// The same for a PPD that is open already.
@@ -27,6 +30,8 @@ public:
 
     PpdSource &source() { return m_source; }
     HostCallback &callback() { return *m_callback; }
+    /// Options of the job that are none of the PPD, from the preset of the command line.
+    const QMap<QString, QString> &jobOptions() const { return m_jobOptions; }
     /// The panel of this queue; made anew when the former one was closed.
     PanelSession &session();
 
@@ -43,6 +48,7 @@ private:
     PDEPlugin &m_plugin;
     PpdSource m_source;
     std::shared_ptr<HostCallback> m_callback;
+    QMap<QString, QString> m_jobOptions;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<PanelSession> m_session;
 };

@@ -8,6 +8,7 @@
 #include "host/files.h"
 #include "host/host_error.h"
 #include "host/panel_stage.h"
+#include "host/presets/preset_commands.h"
 #include "host/ps_job.h"
 
 #include <QFileInfo>
@@ -44,6 +45,12 @@ QString targetFile(const CommandLine &line) {
     return target;
 }
 
+/// The preset's options for CUPS do nothing in a file.
+void tellUnusedOptions(const PanelStage &stage) {
+    for (const QString &option : stage.jobOptions().keys())
+        warn(option, QStringLiteral("isn't used in a job that goes to a file"));
+}
+
 } // namespace
 
 QByteArray psJob(PanelStage &stage, const Document &document) {
@@ -61,6 +68,8 @@ int sendToCups(PanelStage &stage, const Document &document) {
     const auto &entries = stage.callback().settings().entries();
     for (auto entry = entries.begin(); entry != entries.end(); ++entry)
         job.options.append({entry.key(), entry->value});
+    for (auto option = stage.jobOptions().begin(); option != stage.jobOptions().end(); ++option)
+        job.options.append({option.key(), option.value()});
     return CupsServer().submit(job);
 }
 
@@ -74,6 +83,7 @@ void print(const CommandLine &line) {
     if (!line.ticket.isNull())
         outputs.add(line.ticket, jsonText(ticketJson(stage.callback().settings())));
     if (!target.isNull()) {
+        tellUnusedOptions(stage);
         outputs.add(target, psJob(stage, document));
     } else {
         const int job = sendToCups(stage, document);

@@ -1,0 +1,22 @@
+#include "host/presets/remember_box.h"
+
+namespace host {
+
+RememberBox::RememberBox(const PresetStore &store, QWidget *parent)
+    : QCheckBox(tr("&Remember these settings for this printer"), parent), m_store(store) {
+    setObjectName(QStringLiteral("rememberSettings"));
+    setAccessibleDescription(
+        tr("If not, they hold for this job only. Passwords aren't remembered."));
+    setToolTip(accessibleDescription());
+}
+
+void RememberBox::setQueue(const QString &queue) {
+    m_queue = queue;
+    setChecked(m_store.hasLastUsed(queue));
+}
+
+void RememberBox::keep(const Preset &sent) {
+    m_store.setLastUsed(m_queue, isChecked() ? std::optional(sent) : std::nullopt);
+}
+
+} // namespace host

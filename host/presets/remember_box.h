@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/presets/preset_store.h"
+
+#include <QCheckBox>
+
+namespace host {
+
+/// "Remember these settings for this printer": checked for a queue whose last used settings are
+/// kept. Nothing is written before keep().
+class RememberBox : public QCheckBox {
+    Q_OBJECT
+
+public:
+    explicit RememberBox(const PresetStore &store, QWidget *parent = nullptr);
+
+    /// Another queue: takes up whether its settings are kept.
+    void setQueue(const QString &queue);
+    /// A job was sent: keeps its settings if the person wants that, else forgets those of an
+    /// earlier one. @throw HostError
+    void keep(const Preset &sent);
+
+private:
+    PresetStore m_store;
+    QString m_queue;
+};
+
+} // namespace host
