@@ -359,40 +359,31 @@ TEST(PresetCommands, PrintAndList) {
     writeFile(cups.folder() + "/config/image-options/presets/Queue", "bad.json", "{}");
     const QString document = samplePath("sample.ps"), ppd = samplePath("velmora-mvo-530.ppd");
 
-    const struct {
+    struct Case {
         QStringList arguments;
         int exitCode;
         QByteArray out, err;
-    } cases[] = {
-        {{"list", "--presets"},
-         0,
-         "Queue\tbad\tisn't a preset\nQueue\tMy Draft\nvelmora-mvo-530\tMy Draft\n",
-         ""},
+    };
+    const QByteArray gone =
+        "pde-host: My Draft: “Gone” is no longer a setting of this printer; the preset has “X”\n";
+    const QByteArray unused = "pde-host: copies: isn't used in a job that goes to a file\n";
+    const QByteArray usage =
+        "pde-host: --queue: needs --presets (pde-host --help tells the usage)\n";
+    const QByteArray all =
+        "Queue\tbad\tisn't a preset\nQueue\tMy Draft\nvelmora-mvo-530\tMy Draft\n";
+    const QByteArray none = "pde-host: --preset: my draft: “Queue” has no preset of this name\n";
+    // clang-format off
+    const Case cases[] = {
+        {{"list", "--presets"}, 0, all, ""},
         {{"list", "--presets", "--queue", "velmora-mvo-530"}, 0, "velmora-mvo-530\tMy Draft\n", ""},
         {{"list", "--presets", "--queue", "None"}, 0, "", ""},
-        {{"list", "--queue", "Queue"},
-         2,
-         "",
-         "pde-host: --queue: needs --presets (pde-host --help tells the usage)\n"},
-        {{"print", "--queue", "Queue", "--preset", "my draft", document},
-         2,
-         "",
-         "pde-host: --preset: my draft: “Queue” has no preset of this name\n"},
-        {{"print", "--queue", "Queue", "--preset", "bad", document},
-         2,
-         "",
-         "pde-host: --preset: bad: isn't a preset\n"},
-        {{"print", "--ppd", ppd, "--to", "job.ps", "--ticket", "t.json", "--preset", "My Draft",
-          "-o", "QZColorMode=Color", "--setting", "a.key=mine", document},
-         0,
-         "",
-         "pde-host: My Draft: “Gone” is no longer a setting of this printer; the preset has “X”\n"
-         "pde-host: copies: isn't used in a job that goes to a file\n"},
-        {{"print", "--queue", "Queue", "--preset", "My Draft", document},
-         0,
-         "Queue-1\n",
-         "pde-host: My Draft: “Gone” is no longer a setting of this printer; the preset has “X”\n"},
+        {{"list", "--queue", "Queue"}, 2, "", usage},
+        {{"print", "--queue", "Queue", "--preset", "my draft", document}, 2, "", none},
+        {{"print", "--queue", "Queue", "--preset", "bad", document}, 2, "", "pde-host: --preset: bad: isn't a preset\n"},
+        {{"print", "--ppd", ppd, "--to", "job.ps", "--ticket", "t.json", "--preset", "My Draft", "-o", "QZColorMode=Color", "--setting", "a.key=mine", document}, 0, "", gone + unused},
+        {{"print", "--queue", "Queue", "--preset", "My Draft", document}, 0, "Queue-1\n", gone},
     };
+    // clang-format on
     for (const auto &c : cases) {
         const HostRun run = runHost(c.arguments, cups.folder(), {}, environment);
         const std::string what = c.arguments.join(' ').toStdString();
