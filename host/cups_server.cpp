@@ -166,19 +166,49 @@ QByteArray CupsServer::ppd(const QString &queue) {
     return text;
 }
 
+/// Makes a job as cupsCreateJob() does, but so that custom values of several parameters, "{A=1
+/// B='two words'}", reach the filters: libcups would send them as collections, which cupsd leaves
+/// out of the filters' options.
+int CupsServer::createJob(const CupsJob &job) {
+    ipp_t *request = ippNewRequest(IPP_OP_CREATE_JOB);
+    const QByteArray printer = printerUri(job.queue);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+                 printer.constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+                 job.title.toUtf8().constData());
+    cups_option_t *list = nullptr;
+    int count = 0;
+    QList<QPair<QByteArray, QByteArray>> customValues;
+    for (const auto &[name, value] : job.options) {
+        const QByteArray key = name.toUtf8(), text = value.toUtf8();
+        // CUPS' own collections have names with dashes, as "media-col" has.
+        if (text.startsWith('{') && !key.contains('-'))
+            customValues.append({key, text});
+        else
+            count = cupsAddOption(key.constData(), text.constData(), count, &list);
+    }
+    cupsEncodeOptions2(request, count, list, IPP_TAG_OPERATION);
+    cupsEncodeOptions2(request, count, list, IPP_TAG_JOB);
+    for (const auto &[key, text] : customValues)
+        ippAddString(request, IPP_TAG_JOB, IPP_TAG_TEXT, key.constData(), nullptr,
+                     text.constData());
+    cupsEncodeOptions2(request, count, list, IPP_TAG_SUBSCRIPTION); // groups stand in this order
+    cupsFreeOptions(count, list);
+    const Reply reply(cupsDoRequest(m_http.get(), request,
+                                    printer.mid(printer.indexOf("/printers/")).constData()));
+    ipp_attribute_t *id =
+        reply ? ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER) : nullptr;
+    if (!id || ippGetStatusCode(reply.get()) > IPP_STATUS_OK_CONFLICTING)
+        throw HostError(job.queue, failure());
+    return ippGetInteger(id, 0);
+}
+
 int CupsServer::submit(const CupsJob &job, const std::function<bool(qint64)> &progress) {
     requireQueue(job.queue);
     const QByteArray queue = job.queue.toUtf8();
-    cups_option_t *list = nullptr;
-    int count = 0;
-    for (const auto &[name, value] : job.options)
-        count = cupsAddOption(name.toUtf8().constData(), value.toUtf8().constData(), count, &list);
-    const int id =
-        cupsCreateJob(m_http.get(), queue.constData(), job.title.toUtf8().constData(), count, list);
-    cupsFreeOptions(count, list);
-    if (id == 0)
-        throw HostError(job.queue, failure());
-
+    const int id = createJob(job);
     bool givenUp = false;
     const auto send = [&] {
         if (cupsStartDocument(m_http.get(), queue.constData(), id, job.title.toUtf8().constData(),

@@ -86,6 +86,7 @@ private:
     using Reply = std::unique_ptr<ipp_t, IppCloser>;
 
     void connect();
+    int createJob(const CupsJob &job);
     const char *answerPrompt(const char *prompt);
     /// @param queue  asks about that queue; null for the server
     Reply ask(ipp_op_t operation, const QString &queue);

@@ -1,6 +1,7 @@
 #include "host/ppd_source.h"
 
 #include "host/cups_server.h"
+#include "host/custom_value.h"
 #include "host/host_error.h"
 #include "platform/ppd_file.h"
 #include "platform/ppd_marks.h"
@@ -15,42 +16,6 @@ PpdPtr taken(PpdFile file, const QString &subject) {
         throw HostError(subject, file.reason);
     ppdMarkDefaults(file.ppd.get());
     return std::move(file.ppd);
-}
-
-/// The number or text of a custom value's parameter, as ppdMarkOption reads it.
-QString customValue(const ppd_cparam_t &parameter) {
-    switch (parameter.type) {
-    case PPD_CUSTOM_INT:
-        return QString::number(parameter.current.custom_int);
-    case PPD_CUSTOM_PASSCODE:
-    case PPD_CUSTOM_PASSWORD:
-    case PPD_CUSTOM_STRING:
-        return QString::fromUtf8(parameter.current.custom_string);
-    case PPD_CUSTOM_POINTS:
-        return QString::number(double(parameter.current.custom_points));
-    default:
-        return QString::number(double(parameter.current.custom_real));
-    }
-}
-
-/// A marked choice "Custom" with its values, in the form that marks it again.
-QString customChoice(ppd_file_t *ppd, const ppd_option_t &option) {
-    if (!qstricmp(option.keyword, "PageSize") || !qstricmp(option.keyword, "PageRegion")) {
-        const ppd_size_t *size = ppdPageSize(ppd, "Custom");
-        return size ? QStringLiteral("Custom.%1x%2")
-                          .arg(double(size->width))
-                          .arg(double(size->length))
-                    : QString();
-    }
-    QStringList values;
-    QString first;
-    ppd_coption_t *custom = ppdFindCustomOption(ppd, option.keyword);
-    for (ppd_cparam_t *p = custom ? ppdFirstCustomParam(custom) : nullptr; p;
-         p = ppdNextCustomParam(custom)) {
-        first = values.isEmpty() ? customValue(*p) : first;
-        values.append(QString::fromUtf8(p->name) + u'=' + customValue(*p));
-    }
-    return values.size() == 1 ? QStringLiteral("Custom.") + first : u'{' + values.join(u' ') + u'}';
 }
 
 } // namespace
@@ -84,10 +49,12 @@ QList<QPair<QString, QString>> markedChoices(ppd_file_t *ppd) {
             for (int j = 0; j < option.num_choices; ++j) {
                 if (!option.choices[j].marked)
                     continue;
-                const char *choice = option.choices[j].choice;
-                rows.append({QString::fromUtf8(option.keyword), qstricmp(choice, "Custom")
-                                                                    ? QString::fromUtf8(choice)
-                                                                    : customChoice(ppd, option)});
+                QString choice = QString::fromUtf8(option.choices[j].choice);
+                if (choice.compare(QLatin1String("Custom"), Qt::CaseInsensitive) == 0)
+                    if (QString value = customValueOf(ppd, option, Secrets::With).text;
+                        !value.isNull())
+                        choice = std::move(value);
+                rows.append({QString::fromUtf8(option.keyword), choice});
             }
         }
         for (int i = 0; i < group.num_subgroups; ++i)

@@ -1,6 +1,6 @@
 #include "host/presets/applied_preset.h"
 
-#include "host/presets/custom_value.h"
+#include "host/custom_value.h"
 #include "host/presets/words.h"
 #include "platform/ppd_marks.h"
 #include "platform/utf8.h"

@@ -48,13 +48,10 @@ TEST(Cups, FiltersPrintTheMarks) {
     EXPECT_EQ(list.out, "Plain\tno panel\nQueue\tpanel\n") << list.err.constData();
 
     for (const char *document : {"sample.ps", "sample.pdf"}) {
-        const QStringList common{"-o",
-                                 "QZColorMode=Black",
-                                 "-o",
-                                 "Duplex=DuplexNoTumble",
-                                 "--setting",
-                                 "com.velmora.test=a b",
-                                 samplePath(document)};
+        // clang-format off
+        const QStringList common{"-o", "QZColorMode=Black", "-o", "Duplex=DuplexNoTumble",
+                                 "--setting", "com.velmora.test=a b", samplePath(document)};
+        // clang-format on
         const HostRun toFile =
             runHost(QStringList{"print", "--queue", "Queue", "--to", "job.ps"} + common,
                     cups.folder(), {}, cups.environment());
@@ -120,6 +117,25 @@ TEST(Cups, SilentOrMissingServerIsGivenUp) {
         EXPECT_EQ(run.err.count('\n'), 1) << run.err.constData();
     }
     EXPECT_LT(timer.elapsed(), 40000);
+}
+
+TEST(Cups, CustomValuesReachTheFilters) {
+    CupsDaemon cups;
+    ASSERT_TRUE(cups.start());
+    const QString ppd = writeFile(cups.folder(), "stamp.ppd",
+                                  readFile(samplePath("velmora-plain.ppd")) +
+                                      ppdOption("Stamp", {"None", "Plain"}) +
+                                      "*CustomStamp True: \"pop pop\"\n"
+                                      "*ParamCustomStamp Words: 1 string 0 40\n"
+                                      "*ParamCustomStamp Level: 2 int 0 99\n");
+    ASSERT_TRUE(cups.addQueue("Queue", ppd)) << cups.log().constData();
+    const QString value = "Stamp={Words='it\\'s two words' Level=42}";
+    const HostRun run = runHost({"print", "--queue", "Queue", "-o", value, samplePath("sample.ps")},
+                                cups.folder(), {}, cups.environment());
+    EXPECT_EQ(run.out, "Queue-1\n") << run.err.constData();
+    ASSERT_TRUE(cups.waitForJobs("Queue")) << cups.log().constData();
+    EXPECT_TRUE(readFile(cups.outputOf("Queue")).contains("(it's two words)\n42\n"))
+        << readFile(cups.outputOf("Queue")).left(3000).constData();
 }
 
 /// The dialog on a queue, worked by a person who shifts a density and prints.

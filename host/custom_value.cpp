@@ -1,4 +1,4 @@
-#include "host/presets/custom_value.h"
+#include "host/custom_value.h"
 
 #include <QStringList>
 
