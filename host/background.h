@@ -26,13 +26,14 @@ template <typename Work, typename Done>
 void inBackground(QObject *context, Work work, Done done,
                   std::function<void(const QString &)> failed) {
     QPointer<QObject> asker(context);
-    QThreadPool::globalInstance()->start([asker, work = std::move(work), done = std::move(done),
+    QObject *const home = QCoreApplication::instance(); // outlives all work, unlike its pointer
+    QThreadPool::globalInstance()->start([asker, home, work = std::move(work),
+                                          done = std::move(done),
                                           failed = std::move(failed)]() mutable {
-        // A pointer to the asker is only looked at on its own thread; the application outlives all
-        // work.
-        const auto answer = [&asker](auto call) {
+        // A pointer to the asker is only looked at on its own thread.
+        const auto answer = [&asker, home](auto call) {
             QMetaObject::invokeMethod(
-                qApp,
+                home,
                 [asker, call = std::move(call)]() mutable {
                     if (asker)
                         call();

@@ -19,22 +19,23 @@ JobSender::JobSender(PasswordSource askPassword, QObject *parent)
 }
 
 JobSender::~JobSender() {
+    m_shared->gone = true;
     if (m_job == 0)
         m_shared->givenUp = true;
 }
 
-/// The sending thread waits for the person's answer, but no longer than this object lives.
-PasswordSource JobSender::passwordFromHere() {
+PasswordSource JobSender::passwordFromHere(std::function<bool()> stop) {
     if (!m_askPassword)
         return {};
     struct Answer {
         QSemaphore given;
         std::optional<Credentials> credentials;
     };
-    return [asker = QPointer<JobSender>(this), shared = m_shared](const QString &prompt) {
+    return [asker = QPointer<JobSender>(this), home = QCoreApplication::instance(),
+            stop = std::move(stop)](const QString &prompt) {
         const auto answer = std::make_shared<Answer>();
         QMetaObject::invokeMethod(
-            qApp,
+            home,
             [asker, answer, prompt] {
                 if (asker)
                     answer->credentials = asker->m_askPassword(prompt);
@@ -42,7 +43,7 @@ PasswordSource JobSender::passwordFromHere() {
             },
             Qt::QueuedConnection);
         while (!answer->given.tryAcquire(1, kPatienceMs))
-            if (shared->givenUp)
+            if (stop())
                 return std::optional<Credentials>();
         return answer->credentials;
     };
@@ -54,7 +55,8 @@ void JobSender::send(const CupsJob &job) {
     m_timer.start(kProgressMs);
     inBackground(
         this,
-        [job, shared = m_shared, password = passwordFromHere()] {
+        [job, shared = m_shared,
+         password = passwordFromHere([shared = m_shared] { return bool(shared->givenUp); })] {
             return CupsServer({}, password).submit(job, [&shared](qint64 sent) {
                 shared->sent = sent;
                 return !shared->givenUp;
@@ -80,7 +82,8 @@ void JobSender::cancel() {
         return;
     inBackground(
         this,
-        [queue = m_queue, job = m_job, password = passwordFromHere()] {
+        [queue = m_queue, job = m_job,
+         password = passwordFromHere([shared = m_shared] { return bool(shared->gone); })] {
             CupsServer({}, password).cancelJob(queue, job);
             return true;
         },

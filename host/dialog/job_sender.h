@@ -45,12 +45,14 @@ signals:
 private:
     /// What both threads look at.
     struct Shared {
-        std::atomic<bool> givenUp = false;
+        std::atomic<bool> gone = false;    ///< this object
+        std::atomic<bool> givenUp = false; ///< the sending
         std::atomic<qint64> sent = 0;
     };
 
     void look();
-    PasswordSource passwordFromHere();
+    /// Asks the person, for a thread that waits for the answer until `stop` holds.
+    PasswordSource passwordFromHere(std::function<bool()> stop);
 
     PasswordSource m_askPassword;
     std::shared_ptr<Shared> m_shared = std::make_shared<Shared>();

@@ -6,6 +6,10 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QThread>
+#include <QThreadPool>
 
 #include <gtest/gtest.h>
 
@@ -79,13 +83,43 @@ TEST(JobSender, SendsFollowsAndCancels) {
         EXPECT_TRUE(cups.command("lpstat", {"-o"}, &waiting));
         EXPECT_EQ(waiting, "");
     }
-    {
-        host::JobSender sender;
+    qunsetenv("CUPS_SERVER");
+}
+
+/// A server that wants to know the person, takes one name and password, and then refuses.
+TEST(JobSender, AsksWhoThePersonIs) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    QByteArray received;
+    QObject::connect(&server, &QTcpServer::newConnection, [&] {
+        QTcpSocket *peer = server.nextPendingConnection();
+        QObject::connect(peer, &QTcpSocket::readyRead, [&received, peer] {
+            const QByteArray request = peer->readAll();
+            received += request;
+            if (request.startsWith("POST"))
+                peer->write(request.contains("Authorization: Basic")
+                                ? "HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n"
+                                : "HTTP/1.1 401 Unauthorized\r\nContent-Length: 0\r\n"
+                                  "WWW-Authenticate: Basic realm=\"CUPS\"\r\n\r\n");
+        });
+    });
+    qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(server.serverPort()));
+    QThreadPool::globalInstance()->waitForDone(); // each thread remembers the server that it met
+    const auto here = QThread::currentThread();
+    for (const bool answers : {false, true}) {
+        int asked = 0;
+        host::JobSender sender([&](const QString &) {
+            EXPECT_EQ(QThread::currentThread(), here);
+            ++asked;
+            return answers ? std::optional(host::Credentials{"ann", "secret"}) : std::nullopt;
+        });
         const Told told(sender);
-        job.queue = "Nowhere";
-        sender.send(job);
+        sender.send({"Queue", "title", CUPS_FORMAT_POSTSCRIPT, "%!PS\n", {}});
         ASSERT_TRUE(waitFor([&] { return !told.failure.isEmpty(); }));
-        EXPECT_TRUE(told.failure.startsWith("Nowhere: no such queue"));
+        EXPECT_EQ(asked, 1);
+        EXPECT_EQ(received.contains("Authorization: Basic " + QByteArray("ann:secret").toBase64()),
+                  answers);
+        EXPECT_TRUE(told.failure.startsWith("Queue: ")) << told.failure.toStdString();
     }
     qunsetenv("CUPS_SERVER");
 }
