@@ -8,7 +8,6 @@
 #include <QStringEncoder>
 
 #include <algorithm>
-#include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <functional>

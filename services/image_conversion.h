@@ -16,10 +16,10 @@ enum ImageFileType : uint32_t {
 
 /// Converts an image file.
 ///
-/// TIFF and GIF take all pictures of the source, the others the first. Transparent
-/// places become white in JPEG and BMP, half transparent ones are put on white in GIF. A sample has
-/// 16 bits at most. BMP becomes what VerticalReverse wants. The target is replaced as a
-/// whole or not at all, and may be the source.
+/// TIFF and GIF take all pictures of the source, the others the first. Transparent places become
+/// white in JPEG and BMP, half transparent ones are put on white in GIF. A sample has 16 bits at
+/// most. BMP becomes what VerticalReverse wants. The target is replaced as a whole or not at all,
+/// and may be the source.
 /// @param source        a TIFF, BMP, GIF, JPEG, PNG, JPEG 2000, WebP or Netpbm file
 ///                      of up to 256 MB, whatever its name
 /// @param target        path of the new file; its folder must exist

@@ -95,19 +95,10 @@ QMap<QString, QStringList> choicesOf(const PpdPtr &ppd) {
 TEST(PresetStore, AnyNameOfAQueueOrPresetKeepsItsOwnFile) {
     QTemporaryDir folder;
     PresetStore store(folder.filePath("deep/er"));
-    const QStringList names{"a",
-                            "A",
-                            "a/b",
-                            ".",
-                            "..",
-                            ".hidden",
-                            "con",
-                            "50% ~x",
-                            "a%2Fb",
-                            "ü 写真",
-                            QString(150, u'写'),
-                            QString(149, u'写') + u'真',
-                            QString(200, u'x')};
+    // clang-format off
+    const QStringList names{"a", "A", "a/b", ".", "..", ".hidden", "con", "50% ~x", "a%2Fb", "ü 写真",
+                            QString(150, u'写'), QString(149, u'写') + u'真', QString(200, u'x')};
+    // clang-format on
     for (const QString &queue : names)
         for (const QString &name : names)
             ASSERT_EQ(store.save(named(name, queue)), Outcome::Done) << name.toStdString();

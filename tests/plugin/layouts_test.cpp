@@ -2,7 +2,6 @@
 
 #include "platform/help_viewer.h"
 #include "platform/views/modal_window.h"
-#include "platform/views/text_view.h"
 #include "services/help.h"
 
 #include <QApplication>
@@ -104,25 +103,6 @@ TEST_F(LayoutsTest, EachLanguageHasItsTextsAndHelp) {
                 EXPECT_EQ(GotoHelpPage(pluginBundle.get(), page, "restore", title), 0);
                 EXPECT_EQ(helpViewerPage().path().contains("/de/"), language == "de");
             }
-    }
-}
-
-TEST_F(LayoutsTest, VersionTextIsHiddenAndTellsOfAMissingCache) {
-    for (const auto &[attribute, text] :
-         {std::pair("", "Ver.1.0.1"), {"*QZXCDFSetting: \"/no/such/file\"\n", "Ver.1.0.1."}}) {
-        panel.reset();
-        ppd =
-            openPpdText(QByteArray("*QZXImageOptionsSettings: \"Default00-MVO530\"\n") + attribute);
-        panel = std::move(panels(ppd.get()).at(0));
-        panel->supportedPPDOptionKeys();
-        QWidget *view = panel->panelView();
-        panel->restoreValuesAndReturnError(nullptr);
-        dynamic_cast<ImageOptionsPDEk27 &>(*panel).ReInitializeUserPaneControl(pluginBundle.get(),
-                                                                               ppd.get());
-        auto *version = view->findChild<TextView *>("imageOptionsVerStringSTextCtrl");
-        ASSERT_TRUE(version);
-        EXPECT_TRUE(version->isHidden());
-        EXPECT_EQ(version->stringValue(), text);
     }
 }
 

@@ -38,51 +38,31 @@ TEST_F(ToolTest, CheckTellsWhatDiffers) {
     const QByteArray line = "section S: ", fresh = " in a fresh table\n",
                      equal = "section S: 4 entries, equal\n",
                      stamp = "stamp: \"*% Last Edit Date: today\", equal\n";
-    const struct {
+    const QByteArray unchecked = "; nothing behind that was checked\n";
+    const QByteArray swapped = "S\nQZOutputMode:Q@0@0@1@QZColorMode:Y@0@1@1@QZOutputMode:P@0@0@01@"
+                               "QZColorMode:Y@0@1@1@\n";
+    struct Case {
         QByteArray cache, out;
         QStringList options = {};
-    } cases[] = {
+    };
+    // clang-format off
+    const Case cases[] = {
         {kCache, equal + stamp},
-        {"S\nQZOutputMode:Q@0@0@1@QZColorMode:Y@0@1@1@QZOutputMode:P@0@0@01@QZColorMode:Y@0@1@1@"
-         "\n" +
-             kStamp,
-         equal + stamp}, // in another order
-        {changed("Y@0@1@1@QZColorMode:Y@0@1@1@", "Y@0@1@1@"),
-         line +
-             "Mode \"P label\" forbids Größe \"Y label\" [QZOutputMode:P, QZColorMode:Y]: "
-             "once in the cache, 2 times" +
-             fresh + stamp},
-        {changed("QZOutputMode:P@0@0@1@", ""),
-         line +
-             "Größe \"X label\" forbids Mode \"P label\" [QZColorMode:X, QZOutputMode:P]: "
-             "not in the cache, once" +
-             fresh + stamp},
-        {changed("P@0@0@1@", "P@0@0@1@QZOutputMode:P@7@0@1@"),
-         line +
-             "group 7, option 0, choice 1 (outside the PPD) forbids Mode \"P label\" "
-             "[QZOutputMode:P]: once in the cache, not" +
-             fresh + stamp},
-        {changed("P@0@0@1@", "P@0@0@1@QZOutputMode:P@0@0@65537@"),
-         line +
-             "\"0@0@65537\" (no three numbers) forbids Mode \"P label\" [QZOutputMode:P]: once in "
-             "the cache, not" +
-             fresh + stamp},
-        {changed("today", "yesterday"), equal + "stamp: \"*% Last Edit Date: yesterday\" in the "
-                                                "cache, \"*% Last Edit Date: today\" in the PPD\n"},
-        {changed(kStamp, ""),
-         equal + "stamp: none in the cache, \"*% Last Edit Date: today\" in the PPD\n"},
-        {changed("S\n", "S\n" + kEntries + "S\n"),
-         equal + "section S: stands twice; the panel reads the first one\n" + stamp},
+        {swapped + kStamp, equal + stamp}, // in another order
+        {changed("Y@0@1@1@QZColorMode:Y@0@1@1@", "Y@0@1@1@"), line + "Mode \"P label\" forbids Größe \"Y label\" [QZOutputMode:P, QZColorMode:Y]: once in the cache, 2 times" + fresh + stamp},
+        {changed("QZOutputMode:P@0@0@1@", ""), line + "Größe \"X label\" forbids Mode \"P label\" [QZColorMode:X, QZOutputMode:P]: not in the cache, once" + fresh + stamp},
+        {changed("P@0@0@1@", "P@0@0@1@QZOutputMode:P@7@0@1@"), line + "group 7, option 0, choice 1 (outside the PPD) forbids Mode \"P label\" [QZOutputMode:P]: once in the cache, not" + fresh + stamp},
+        {changed("P@0@0@1@", "P@0@0@1@QZOutputMode:P@0@0@65537@"), line + "\"0@0@65537\" (no three numbers) forbids Mode \"P label\" [QZOutputMode:P]: once in the cache, not" + fresh + stamp},
+        {changed("today", "yesterday"), equal + "stamp: \"*% Last Edit Date: yesterday\" in the cache, \"*% Last Edit Date: today\" in the PPD\n"},
+        {changed(kStamp, ""), equal + "stamp: none in the cache, \"*% Last Edit Date: today\" in the PPD\n"},
+        {changed("S\n", "S\n" + kEntries + "S\n"), equal + "section S: stands twice; the panel reads the first one\n" + stamp},
         {kCache, equal + "section T is missing\n" + stamp, {"--section", "S", "--section", "T"}},
         {"PrintFeature\nA:b@0@0@0@\n" + kCache, equal + stamp, {"--section", "S"}},
-        {changed("Q@0@0@1@\n" + kStamp, "Q@0@0"),
-         "section S, entry 4 breaks off; nothing behind that was checked\n"},
-        {changed("Q@0@0@1@\n", "Q@0@0@1@\r\n"),
-         "section S, entry 5 has a line end in the middle; nothing behind that was checked\n"},
-        {changed(kStamp, "Panth"),
-         equal + "breaks off or goes wrong in the name of a section; nothing behind that was "
-                 "checked\n"},
+        {changed("Q@0@0@1@\n" + kStamp, "Q@0@0"), "section S, entry 4 breaks off" + unchecked},
+        {changed("Q@0@0@1@\n", "Q@0@0@1@\r\n"), "section S, entry 5 has a line end in the middle" + unchecked},
+        {changed(kStamp, "Panth"), equal + "breaks off or goes wrong in the name of a section" + unchecked},
     };
+    // clang-format on
     for (const auto &c : cases) {
         write("a.cdf", c.cache);
         const QStringList options = c.options.isEmpty() ? QStringList{"--section", "S"} : c.options;
