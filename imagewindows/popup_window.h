@@ -26,8 +26,8 @@ public:
     /// @return 0
     virtual int32_t ReInitializeUserPane();
     /// Shows the committed values and runs the window until a button ends it. The window object may
-    /// be gone when this returns. Does nothing
-    /// without a window, without controls and for a window that is up. @return 0
+    /// be gone when this returns. Does nothing without a window, without controls and for a window
+    /// that is up. @return 0
     virtual int32_t ActivateWindow();
     /// @return 0
     virtual int32_t ReleaseWindow();
