@@ -35,7 +35,7 @@ List readList() {
 }
 
 /// Why the file under the list's name must stay: it holds something else than a list of books.
-QString refusalToReplace() {
+QString refusalToReplaceList() {
     const QFileInfo info(helpViewerPreferencePath());
     if (!info.exists() || (info.isFile() && info.size() == 0))
         return {};
@@ -48,7 +48,7 @@ void writeList(plist_t root) {
     const QByteArray data = toXml(root);
     const QString path = helpViewerPreferencePath();
     QDir().mkpath(QFileInfo(path).path());
-    QString reason = refusalToReplace();
+    QString reason = refusalToReplaceList();
     const bool written = reason.isEmpty() && writeWholeFile(path, data, &reason);
     if (!written)
         qCWarning(panelLog, "%s: %s", qUtf8Printable(path), qUtf8Printable(reason));
