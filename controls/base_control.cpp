@@ -44,7 +44,7 @@ void BaseControlKRVImageOptions::SetControlPtr(QWidget *view) {
     // The former view must not call a control that it has lost.
     auto *former = dynamic_cast<views::ActionSource *>(ControlPtr.data());
     if (former && ControlPtr != view)
-        former->setAction({});
+        former->dropAction();
     ControlPtr = view;
     m_viewTag.reset();
 }

@@ -92,6 +92,13 @@ public:
     /// Data block := the value of the row at an index. @return false outside the rows
     virtual bool ConvertFromPresetIndex(int32_t index);
     int32_t UpdateConflictsPanelControlFromPPD(ppd_file_t *ppd) override;
+    /// Also lets the menu explain its disabled items.
+    void setTargetandAction() override;
+    /// Which marked choices forbid a disabled item, in the PPD's words: "Not available with Paper
+    /// Type: Transparency". Of many the first three are named. Where none forbids it any more,
+    /// since a mark was changed without a new look at the items: what brings it back. Null without
+    /// a PPD, or for no row.
+    QString conflictText(int32_t item) const;
     /// @param value  receives the value of the row with that keyword, 0 without one
     /// @return whether there is one
     virtual bool GetDefaultValueFromPPD(const QString &choice, int32_t *value);

@@ -2,8 +2,10 @@
 
 #include "controls/popup_family.h"
 #include "controls/value_text.h"
+#include "platform/bundle.h"
 #include "platform/utf8.h"
 #include "platform/views/popup_view.h"
+#include "ppd/conflicts.h"
 #include "ppd/ppd_query.h"
 #include "ppd/product_type.h"
 
@@ -11,6 +13,8 @@ namespace {
 
 /// Menu texts pass through a buffer of 100 bytes.
 constexpr int kMenuTextBytes = 99;
+/// Choices that an explanation names.
+constexpr qsizetype kMostCauses = 3;
 
 } // namespace
 
@@ -137,6 +141,45 @@ int32_t PPDPopupControlKRVImageOptions::UpdateConflictsPanelControlFromPPD(ppd_f
         for (int32_t i = 0; i < std::min<int32_t>(menu->numberOfItems(), menuRowCount()); ++i)
             menu->setItemEnabled(i, !m_ppd.ctrlPPDInfoArrayRef[i].conflicted());
     return 0;
+}
+
+void PPDPopupControlKRVImageOptions::setTargetandAction() {
+    PopupControlKRVImageOptions::setTargetandAction();
+    if (PopupView *menu = popup())
+        menu->setExplainer([this](int item) { return conflictText(item); });
+}
+
+QString PPDPopupControlKRVImageOptions::conflictText(int32_t item) const {
+    ppd_file_t *ppd = PpdBinding::currentPpd(ctrlParentPanelPtr);
+    const int32_t number = GetIndexByControl(&item);
+    if (!ppd || number < 0 || number >= m_ppd.rowCount())
+        return {};
+    const ChoiceRow &row = m_ppd.ctrlPPDInfoArrayRef[number];
+    const QList<ForbiddingChoice> causes =
+        forbiddingMarks(ppd, ctrlParentPanelPtr->Getxppd(), row.option.toUtf8().constData(),
+                        row.choice.toUtf8().constData());
+    const auto format = [bundle = ctrlParentPanelPtr->GetPDEBundleRef(), this](const char *key,
+                                                                               const char *text) {
+        const QString english = QString::fromUtf8(text);
+        return bundle ? bundle->localizedString(QString::fromUtf8(key), english, LocalizeTableName)
+                      : english;
+    };
+    if (causes.isEmpty())
+        return format("Conflict Past Text", "Available again once another setting is chosen");
+    unsigned int encoding;
+    GetCFStringEncodingFromPPD(ppd, &encoding);
+    const QString list = format("Conflict List Text", "%1, %2");
+    const QString pair = format("Conflict Choice Text", "%1: %2");
+    QString named;
+    for (qsizetype i = 0; i < std::min(causes.size(), kMostCauses + 1); ++i) {
+        const auto &[option, choice] = causes[i];
+        const QString cause = i == kMostCauses
+                                  ? QStringLiteral("…")
+                                  : pair.arg(labelOr(option->text, encoding, option->keyword),
+                                             labelOr(choice->text, encoding, choice->choice));
+        named = named.isNull() ? cause : list.arg(named, cause);
+    }
+    return format("Conflict Text", "Not available with %1").arg(named);
 }
 
 bool PPDPopupControlKRVImageOptions::GetDefaultValueFromPPD(const QString &choice, int32_t *value) {

@@ -197,10 +197,14 @@ QJsonObject viewJson(const ListedView &listed) {
     };
     if (const auto *popup = qobject_cast<const PopupView *>(view)) {
         QJsonArray items;
-        for (int i = 0; i < popup->numberOfItems(); ++i)
-            items.append(QJsonObject{{"title", text(popup->itemTitle(i))},
-                                     {"object", text(popup->itemRepresentedObject(i))},
-                                     {"enabled", popup->isItemEnabled(i)}});
+        for (int i = 0; i < popup->numberOfItems(); ++i) {
+            QJsonObject item{{"title", text(popup->itemTitle(i))},
+                             {"object", text(popup->itemRepresentedObject(i))},
+                             {"enabled", popup->isItemEnabled(i)}};
+            if (const QString why = popup->itemExplanation(i); !why.isNull())
+                item["why"] = why;
+            items.append(item);
+        }
         json["value"] = popup->indexOfSelectedItem();
         json["text"] = text(popup->itemTitle(popup->indexOfSelectedItem()));
         json["items"] = items;

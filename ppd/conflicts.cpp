@@ -2,7 +2,22 @@
 
 #include "ppd/ppd_query.h"
 
+#include <set>
 #include <string>
+
+namespace {
+
+std::string keyOf(const char *option, const char *choice) {
+    std::string key(option);
+    return key.append(1, ':').append(choice);
+}
+
+bool isMarked(const ppd_file_t &ppd, x_constraints place) {
+    const ForbiddingChoice forbidding = forbiddingChoice(ppd, place);
+    return forbidding.choice && forbidding.choice->marked;
+}
+
+} // namespace
 
 ForbiddingChoice forbiddingChoice(const ppd_file_t &ppd, x_constraints place) {
     if (place.groupIndex >= ppd.num_groups)
@@ -20,12 +35,24 @@ bool IsPPDChoiceConflicted(ppd_file_t *ppd, const hash_multimap *table, const ch
                            const char *choice) {
     if (!ppd || !table || !option || !choice)
         return false;
-    std::string key(option);
-    key.append(1, ':').append(choice);
-    return table->anyOf(key, [ppd](x_constraints place) {
-        const ForbiddingChoice forbidding = forbiddingChoice(*ppd, place);
-        return forbidding.choice && forbidding.choice->marked;
+    return table->anyOf(keyOf(option, choice),
+                        [ppd](x_constraints place) { return isMarked(*ppd, place); });
+}
+
+QList<ForbiddingChoice> forbiddingMarks(ppd_file_t *ppd, const hash_multimap *table,
+                                        const char *option, const char *choice) {
+    QList<ForbiddingChoice> found;
+    if (!ppd || !table || !option || !choice)
+        return found;
+    std::set<x_constraints> places;
+    table->anyOf(keyOf(option, choice), [&](x_constraints place) {
+        if (isMarked(*ppd, place))
+            places.insert(place);
+        return false;
     });
+    for (const x_constraints &place : places)
+        found.append(forbiddingChoice(*ppd, place));
+    return found;
 }
 
 int32_t GetUIListFromPPD(ppd_file_t *ppd, const hash_multimap *table, const char *key,

@@ -17,6 +17,9 @@ struct ForbiddingChoice {
 };
 /// @return nulls when the indices lie outside the PPD
 ForbiddingChoice forbiddingChoice(const ppd_file_t &ppd, x_constraints place);
+/// The marked choices for which IsPPDChoiceConflicted() holds, each once, in the PPD's order.
+QList<ForbiddingChoice> forbiddingMarks(ppd_file_t *ppd, const hash_multimap *table,
+                                        const char *option, const char *choice);
 /// Appends one row for each choice of the option, in order; nothing without a list, an option or a
 /// choice.
 /// @param table  null when nothing is to be forbidden

@@ -30,6 +30,12 @@ ROWS = {
     "Type02": ("Type 02", "Typ 02", "Type 02", "タイプ 02", "类型 02"),
     "Type03": ("Type 03", "Typ 03", "Type 03", "タイプ 03", "类型 03"),
 
+    # Why an item of a list is greyed: the settings that forbid it, each an option and its choice
+    "Conflict Text": ("Not available with %1", "Nicht verfügbar zusammen mit %1", "Non disponible avec %1", "%1とは併用できません", "无法与 %1 同时使用"),
+    "Conflict Past Text": ("Available again once another setting is chosen", "Wieder verfügbar, sobald eine andere Einstellung gewählt wird", "De nouveau disponible dès qu’un autre réglage est choisi", "他の設定を選択すると再び使用できます", "选择其他设置后即可恢复使用"),
+    "Conflict Choice Text": ("%1: %2", "%1: %2", "%1\u00a0: %2", "%1：%2", "%1：%2"),
+    "Conflict List Text": ("%1, %2", "%1, %2", "%1, %2", "%1、%2", "%1、%2"),
+
     # Buttons of several windows
     "OK Button Text": ("OK", "OK", "OK", "OK", "确定"),
     "Cancel Button Text": ("Cancel", "Abbrechen", "Annuler", "キャンセル", "取消"),

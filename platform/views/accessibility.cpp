@@ -18,7 +18,11 @@ public:
         : QAccessibleWidget(view, QAccessible::ComboBox), m_view(view) {}
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? m_view->currentText() : QAccessibleWidget::text(kind);
+        const QString own =
+            kind == QAccessible::Value ? m_view->currentText() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Description && own.isEmpty()
+                   ? m_view->itemExplanation(m_view->currentIndex())
+                   : own;
     }
     int childCount() const override { return 1; }
     QAccessibleInterface *child(int index) const override {

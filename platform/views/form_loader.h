@@ -53,7 +53,8 @@ PDE_PLATFORM_EXPORT QWidget *loadForm(const QString &path, const std::vector<Out
 /// letter twice as long as letters last. Called when the titles stand, and again when they change.
 /// Latin letters and digits come first, and among these the ones that begin a word. A title that
 /// has no letter with a key, or none left, gets a Latin one behind it, which is no part of it.
-/// Letters that other views of the window use are left to them. Each window has letters of its own.
+/// Letters that other views of the window use are left to them, but for views on another page of a
+/// stack, such as that of a row of tabs. Each window has letters of its own.
 PDE_PLATFORM_EXPORT void assignMnemonics(QWidget *root);
 
 } // namespace views

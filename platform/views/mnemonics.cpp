@@ -9,6 +9,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QSet>
+#include <QStackedWidget>
 
 #include <algorithm>
 
@@ -79,6 +80,16 @@ bool place(int holder, const QList<Holder> &holders, QHash<QChar, int> &owners,
     return false;
 }
 
+/// Whether two views stand on different pages of a stack, such as that of a row of tabs: they are
+/// never seen together.
+bool onDifferentPages(const QWidget *view, const QWidget *other) {
+    for (const QWidget *page = view; page && page->parentWidget(); page = page->parentWidget())
+        if (const auto *stack = qobject_cast<const QStackedWidget *>(page->parentWidget());
+            stack && stack->isAncestorOf(other))
+            return page != other && !page->isAncestorOf(other);
+    return false;
+}
+
 QList<QWidget *> inTabOrder(QWidget *window) {
     QHash<const QWidget *, int> order;
     QWidget *widget = window;
@@ -111,7 +122,8 @@ void assignInWindow(QWidget *window, const QWidget *root) {
             view->setMnemonic(QChar());
             if (!label || label->buddy())
                 holders += Holder{view, candidateLetters(view->caption())};
-        } else if (const QChar letter = takenLetter(widget); !letter.isNull()) {
+        } else if (const QChar letter = takenLetter(widget);
+                   !letter.isNull() && !onDifferentPages(widget, root)) {
             owners.insert(letter, kOther);
         }
     }

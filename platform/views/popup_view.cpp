@@ -2,13 +2,37 @@
 
 #include "platform/views/accessibility.h"
 
+#include <QHelpEvent>
 #include <QPointer>
 #include <QStandardItemModel>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace {
 
 constexpr int kIconGap = 4; // of Qt's own measure
+
+/// A text as a tool tip shows it as it stands, in lines of a readable length.
+QString toolTipOf(const QString &text) {
+    return text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
+/// An item that is explained when its explanation is asked for.
+class PopupItem : public QStandardItem {
+public:
+    PopupItem(const QString &title, const PopupView *view) : QStandardItem(title), m_view(view) {}
+
+    QVariant data(int role) const override {
+        if (role == Qt::ToolTipRole)
+            return toolTipOf(m_view->itemExplanation(row()));
+        if (role == Qt::AccessibleDescriptionRole)
+            return m_view->itemExplanation(row());
+        return QStandardItem::data(role);
+    }
+
+private:
+    const PopupView *m_view; ///< owns the item
+};
 
 } // namespace
 
@@ -18,8 +42,8 @@ PopupView::PopupView(QWidget *parent) : QComboBox(parent) {
     connect(this, &QComboBox::activated, this, &PopupView::activate);
 }
 
-// As AdjustToMinimumContentsLengthWithIcon asks, but setting that makes the popup's window at once,
-// for each list of a panel.
+// The width that AdjustToMinimumContentsLengthWithIcon gives; setting that makes the list's window
+// at once, for each list of a panel.
 QSize PopupView::minimumSizeHint() const {
     QSize size = QComboBox::minimumSizeHint();
     if (minimumContentsLength() > 0)
@@ -41,7 +65,8 @@ void PopupView::addItemWithTitle(const QString &title) {
 }
 
 void PopupView::insertItemWithTitle(const QString &title, int index) {
-    insertItem(index < 0 || index > count() ? count() : index, title);
+    auto *items = qobject_cast<QStandardItemModel *>(model());
+    items->insertRow(index < 0 || index > count() ? count() : index, new PopupItem(title, this));
     m_shown = currentIndex();
 }
 
@@ -68,6 +93,16 @@ void PopupView::setItemEnabled(int index, bool enabled) {
         item->setEnabled(enabled);
 }
 
+void PopupView::setExplainer(std::function<QString(int)> explainer) {
+    m_explainer = std::move(explainer);
+}
+
+QString PopupView::itemExplanation(int index) const {
+    return m_explainer && index >= 0 && index < count() && !isItemEnabled(index)
+               ? m_explainer(index)
+               : QString();
+}
+
 void PopupView::selectItemAtIndex(int index) {
     if (index < -1 || index >= count())
         return;
@@ -87,6 +122,21 @@ bool PopupView::chooseItem(int index) {
 void PopupView::showPopup() {
     m_shown = currentIndex();
     QComboBox::showPopup();
+}
+
+void PopupView::dropAction() {
+    ActionSource::dropAction();
+    m_explainer = {};
+}
+
+bool PopupView::event(QEvent *event) {
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
+        return QComboBox::event(event);
+    const QString words = toolTipOf(itemExplanation(currentIndex()));
+    if (words.isEmpty())
+        return QComboBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), words, this);
+    return true;
 }
 
 void PopupView::keyPressEvent(QKeyEvent *event) {

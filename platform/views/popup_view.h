@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 
+#include <functional>
 #include <optional>
 
 /// A popup menu. Items have a title, a represented text and an enabled flag of their own.
@@ -27,6 +28,12 @@ public:
     void setItemRepresentedObject(int index, const QString &object);
     bool isItemEnabled(int index) const;
     void setItemEnabled(int index, bool enabled);
+    /// Sets who knows why an item is disabled. The answer, words for a person or a null text, is
+    /// the item's tool tip and its accessible description, and the menu's own while the item is
+    /// selected. Nobody is asked before a person or an assistive program wants to know.
+    void setExplainer(std::function<QString(int index)> explainer);
+    /// @return why an item is disabled; null for one that is enabled, or that nobody explains
+    QString itemExplanation(int index) const;
     /// Selects an item; -1 selects none, any other place outside the menu is ignored.
     void selectItemAtIndex(int index);
     /// @return the selected item from 0, or -1
@@ -43,8 +50,10 @@ public:
     QSize sizeHint() const override;
 
     void showPopup() override;
+    void dropAction() override;
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
@@ -53,4 +62,5 @@ private:
 
     int m_shown = -1; ///< the item that was selected when a person's act began
     std::optional<int> m_before;
+    std::function<QString(int)> m_explainer;
 };

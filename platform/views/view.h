@@ -36,6 +36,8 @@ class PDE_PLATFORM_EXPORT ActionSource {
 public:
     virtual ~ActionSource();
     void setAction(std::function<void()> action) { m_action = std::move(action); }
+    /// Drops the action, and all else that the view would call of who set it.
+    virtual void dropAction() { m_action = {}; }
 
 protected:
     /// Runs the action. The view may be gone afterwards.

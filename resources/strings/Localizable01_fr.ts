@@ -56,6 +56,22 @@
         <translation>Type 03</translation>
     </message>
     <message>
+        <source>Conflict Text</source>
+        <translation>Non disponible avec %1</translation>
+    </message>
+    <message>
+        <source>Conflict Past Text</source>
+        <translation>De nouveau disponible dès qu’un autre réglage est choisi</translation>
+    </message>
+    <message>
+        <source>Conflict Choice Text</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Conflict List Text</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
         <source>OK Button Text</source>
         <translation>OK</translation>
     </message>

@@ -56,6 +56,22 @@
         <translation>类型 03</translation>
     </message>
     <message>
+        <source>Conflict Text</source>
+        <translation>无法与 %1 同时使用</translation>
+    </message>
+    <message>
+        <source>Conflict Past Text</source>
+        <translation>选择其他设置后即可恢复使用</translation>
+    </message>
+    <message>
+        <source>Conflict Choice Text</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Conflict List Text</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
         <source>OK Button Text</source>
         <translation>确定</translation>
     </message>

@@ -56,6 +56,22 @@
         <translation>タイプ 03</translation>
     </message>
     <message>
+        <source>Conflict Text</source>
+        <translation>%1とは併用できません</translation>
+    </message>
+    <message>
+        <source>Conflict Past Text</source>
+        <translation>他の設定を選択すると再び使用できます</translation>
+    </message>
+    <message>
+        <source>Conflict Choice Text</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Conflict List Text</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
         <source>OK Button Text</source>
         <translation>OK</translation>
     </message>

@@ -56,6 +56,22 @@
         <translation>Typ 03</translation>
     </message>
     <message>
+        <source>Conflict Text</source>
+        <translation>Nicht verfügbar zusammen mit %1</translation>
+    </message>
+    <message>
+        <source>Conflict Past Text</source>
+        <translation>Wieder verfügbar, sobald eine andere Einstellung gewählt wird</translation>
+    </message>
+    <message>
+        <source>Conflict Choice Text</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Conflict List Text</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
         <source>OK Button Text</source>
         <translation>OK</translation>
     </message>

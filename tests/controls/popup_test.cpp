@@ -2,6 +2,8 @@
 
 #include "controls/static_text_family.h"
 
+#include <QAccessible>
+
 namespace {
 
 constexpr int kRecorderTag = 7;
@@ -85,6 +87,42 @@ TEST_F(PopupTest, ConflictWithOneOtherChoice) {
           std::tuple(kMode, "Photo", false)})
         EXPECT_EQ(mode->isChoiceConflicted("QZColorMode:Black", option, choice, ppd.get()),
                   forbids);
+}
+
+TEST_F(PopupTest, GreyedItemsTellWhy) {
+    QByteArray more; // of five causes three are named
+    for (const char *key : {"A", "B", "C", "D"})
+        more += ppdOption(key, {"Off", "On"}, "On", key + QByteArray("&")) + "*UIConstraints: *" +
+                key + " On *QZColorMode Black\n";
+    build(kPpd + more);
+    PopupView *items = menu(mode);
+    const auto told = [items](int item, int role) {
+        return items->itemData(item, role).toString().toStdString();
+    };
+    const auto look = [this] { panel.UpdateConflictsPanelControlFromPPD(ppd.get()); };
+    look();
+    EXPECT_EQ(told(1, Qt::AccessibleDescriptionRole),
+              "Not available with QZRGBImageType title: Photo label, A&: On label, "
+              "B&: On label, …");
+    EXPECT_TRUE(told(1, Qt::ToolTipRole).find(", A&amp;: On") != std::string::npos);
+    EXPECT_EQ(told(0, Qt::ToolTipRole), "") << "an item that isn't greyed";
+    for (const char *key : {"A", "B", "C", "D"})
+        unmark(key);
+    look();
+    items->selectItemAtIndex(1);
+    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(items);
+    EXPECT_EQ(list->text(QAccessible::Description),
+              "Not available with QZRGBImageType title: Photo label");
+    EXPECT_EQ(list->child(0)->child(1)->text(QAccessible::Description),
+              list->text(QAccessible::Description));
+    markChoice(ppd.get(), kType, "CAD");
+    EXPECT_EQ(told(1, Qt::AccessibleDescriptionRole),
+              "Available again once another setting is chosen");
+    look();
+    EXPECT_EQ(told(1, Qt::AccessibleDescriptionRole), "");
+    items->setItemEnabled(1, false);
+    mode->SetControlPtr(nullptr);
+    EXPECT_EQ(told(1, Qt::ToolTipRole), "") << "a control that has given its view up";
 }
 
 TEST_F(PopupTest, RefusedChoiceGoesBackToTheItemShown) {
