@@ -1,22 +1,22 @@
 #include "host/cups_server.h"
 
 #include "host/host_error.h"
+#include "host/words.h"
 
-#include <QElapsedTimer>
+#include <QThreadPool>
 #include <QUrl>
 
+#include <atomic>
 #include <cerrno>
 #include <cstring>
 
 namespace host {
 namespace {
 
-/// RFC 8011, 4.1.4: names of queues travel as a path; these characters never stand in one.
-bool isQueueName(const QString &name) {
-    for (const QChar c : name)
-        if (c <= u' ' || c == u'/' || c == u'#' || c == u'?' || c == u'\x7f')
-            return false;
-    return !name.isEmpty() && name.toUtf8().size() < 128;
+constexpr qsizetype kLargestPpd = 64 << 20; ///< as of a PPD file
+
+bool isFine(const IppPtr &reply) {
+    return ippGetStatusCode(reply.get()) <= IPP_STATUS_OK_CONFLICTING;
 }
 
 QByteArray printerUri(const QString &queue) {
@@ -26,10 +26,43 @@ QByteArray printerUri(const QString &queue) {
     return uri;
 }
 
+ipp_t *printerRequest(ipp_op_t operation, const QString &queue,
+                      std::span<const char *const> attributes) {
+    ipp_t *request = ippNewRequest(operation);
+    if (!queue.isNull())
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+                     printerUri(queue).constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    if (!attributes.empty())
+        ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                      int(attributes.size()), nullptr, attributes.data());
+    return request;
+}
+
+constexpr const char *kName[] = {"printer-name"};
+
 } // namespace
 
-CupsServer::CupsServer(const CupsDeadlines &deadlines, const PasswordSource &password)
-    : m_name(QString::fromLocal8Bit(cupsServer())), m_deadlines(deadlines), m_password(password) {
+bool isQueueName(const QString &name) {
+    for (const QChar c : name) // that never stand in a name
+        if (c <= u' ' || c == u'/' || c == u'#' || c == u'?' || c == u'\x7f')
+            return false;
+    return !name.isEmpty() && name.toUtf8().size() < 128;
+}
+
+PoolPlaceLent::PoolPlaceLent() {
+    QThreadPool::globalInstance()->releaseThread();
+}
+
+PoolPlaceLent::~PoolPlaceLent() {
+    QThreadPool::globalInstance()->reserveThread();
+}
+
+CupsServer::CupsServer(const CupsDeadlines &deadlines, const PasswordSource &password,
+                       std::stop_token stop)
+    : m_name(QString::fromLocal8Bit(cupsServer())), m_deadlines(deadlines), m_password(password),
+      m_watch(std::move(stop)) {
     connect();
     // libcups keeps the callback for each thread; all requests of this object come on one.
     cupsSetPasswordCB2(
@@ -51,7 +84,9 @@ CupsServer::~CupsServer() {
 const char *CupsServer::answerPrompt(const char *prompt) {
     if (!m_password)
         return nullptr;
+    m_watch.pause();
     const std::optional<Credentials> given = m_password(QString::fromUtf8(prompt));
+    m_watch.restart();
     if (!given)
         return nullptr;
     m_givenPassword = given->password.toUtf8();
@@ -59,64 +94,96 @@ const char *CupsServer::answerPrompt(const char *prompt) {
     return m_givenPassword.constData();
 }
 
+bool CupsServer::reconnect() {
+    int cancel = 0; // libcups looks at it several times a second while it connects
+    const std::stop_callback stop(m_watch.stopToken(),
+                                  [&cancel] { std::atomic_ref<int>(cancel).store(1); });
+    return httpReconnect2(m_http.get(), m_deadlines.connectMs, &cancel) == 0;
+}
+
 void CupsServer::connect() {
-    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                              m_deadlines.connectMs, nullptr));
-    if (!m_http)
-        throw HostError(QStringLiteral("CUPS server ") + m_name,
-                        QStringLiteral("no CUPS server answers there: ") +
-                            QString::fromUtf8(cupsLastErrorString()));
-    // A reply that is late is none: the callback's 0 gives the request up.
-    httpSetTimeout(
-        m_http.get(), m_deadlines.replySeconds, [](http_t *, void *) { return 0; }, nullptr);
+    // Made without connecting, so that a handshake of TLS has the deadlines, too.
+    if (!m_watch.isStopped())
+        m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                  0, nullptr));
+    const bool made = m_http && !m_watch.isStopped();
+    if (made) // A reply that is late is none: the callback's 0 gives the request up.
+        httpSetTimeout(
+            m_http.get(), m_deadlines.replySeconds, [](http_t *, void *) { return 0; }, nullptr);
+    if (made) {
+        const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
+        if (reconnect())
+            return;
+    }
+    throw HostError(HostWords::tr("CUPS server %1").arg(m_name),
+                    m_watch.isStopped() ? HostWords::tr("it was given up")
+                                        : HostWords::tr("no CUPS server answers there: %1")
+                                              .arg(QString::fromUtf8(cupsLastErrorString())));
 }
 
 QString CupsServer::failure() const {
     const int error = httpError(m_http.get());
+    if (m_watch.isStopped())
+        return HostWords::tr("it was given up");
+    if (m_watch.hasExpired())
+        return HostWords::tr("CUPS server %1 sent no whole answer within %2 seconds")
+            .arg(m_name)
+            .arg(m_deadlines.wholeSeconds);
     if (error == EWOULDBLOCK || error == ETIMEDOUT)
-        return QStringLiteral("CUPS server %1 gave no answer within %2 seconds")
+        return HostWords::tr("CUPS server %1 gave no answer within %2 seconds")
             .arg(m_name)
             .arg(m_deadlines.replySeconds);
-    if (error == 0 && cupsLastError() == IPP_STATUS_OK)
-        return QStringLiteral("CUPS server %1 closed the connection or sent no valid answer")
-            .arg(m_name);
-    const QString text = QString::fromUtf8(cupsLastErrorString());
-    return QStringLiteral("CUPS server %1: %2")
-        .arg(m_name, text.isEmpty() ? QString::fromLocal8Bit(std::strerror(error)) : text);
+    QString reason;
+    if (cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+        reason = QString::fromUtf8(cupsLastErrorString()); // "Success" for a lost connection
+    else if (error != 0 && error != EPIPE && error != ECONNRESET)
+        reason = QString::fromLocal8Bit(std::strerror(error));
+    if (reason == QString::fromLocal8Bit(std::strerror(0)))
+        reason.clear();
+    return reason.isEmpty()
+               ? HostWords::tr("CUPS server %1 closed the connection or sent no valid answer")
+                     .arg(m_name)
+               : HostWords::tr("CUPS server %1: %2").arg(m_name, reason);
 }
 
-CupsServer::Reply CupsServer::ask(ipp_op_t operation, const QString &queue) {
-    ipp_t *request = ippNewRequest(operation);
-    if (!queue.isNull())
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
-                     printerUri(queue).constData());
-    static const char *const wanted[] = {"printer-name", "printer-is-accepting-jobs"};
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", 2, nullptr,
-                  wanted);
-    Reply reply(cupsDoRequest(m_http.get(), request, "/"));
+IppPtr CupsServer::ask(ipp_t *request, const QString &subject, const char *resource) {
+    const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
+    IppPtr reply(cupsDoRequest(m_http.get(), request, resource));
     if (!reply)
-        throw HostError(queue.isNull() ? QStringLiteral("CUPS") : queue, failure());
+        throw HostError(subject, failure());
     return reply;
 }
 
 void CupsServer::requireQueue(const QString &queue) {
+    printerAttributes(queue, kName);
+}
+
+IppPtr CupsServer::printerAttributes(const QString &queue,
+                                     std::span<const char *const> attributes) {
     const auto none = [&] {
-        return HostError(queue, QStringLiteral("no such queue on CUPS server ") + m_name);
+        return HostError(queue, HostWords::tr("no such queue on CUPS server %1").arg(m_name));
     };
     if (!isQueueName(queue))
         throw none();
-    const Reply reply = ask(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    IppPtr reply = ask(printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue, attributes), queue);
     if (ippGetStatusCode(reply.get()) == IPP_STATUS_ERROR_NOT_FOUND)
         throw none();
-    if (ippGetStatusCode(reply.get()) > IPP_STATUS_OK_CONFLICTING)
+    if (!isFine(reply))
         throw HostError(queue, failure());
+    return reply;
+}
+
+IppPtr CupsServer::printers(std::span<const char *const> attributes) {
+    const QString subject = QStringLiteral("CUPS");
+    IppPtr reply = ask(printerRequest(IPP_OP_CUPS_GET_PRINTERS, {}, attributes), subject);
+    // "Not found" is CUPS' word for a server without queues.
+    if (!isFine(reply) && ippGetStatusCode(reply.get()) != IPP_STATUS_ERROR_NOT_FOUND)
+        throw HostError(subject, failure());
+    return reply;
 }
 
 QStringList CupsServer::queues() {
-    const Reply reply = ask(IPP_OP_CUPS_GET_PRINTERS, {});
-    const ipp_status_t status = ippGetStatusCode(reply.get());
-    if (status > IPP_STATUS_OK_CONFLICTING && status != IPP_STATUS_ERROR_NOT_FOUND)
-        throw HostError(QStringLiteral("CUPS"), failure());
+    const IppPtr reply = printers(kName);
     QStringList names;
     for (ipp_attribute_t *name = ippFindAttribute(reply.get(), "printer-name", IPP_TAG_NAME); name;
          name = ippFindNextAttribute(reply.get(), "printer-name", IPP_TAG_NAME))
@@ -124,22 +191,35 @@ QStringList CupsServer::queues() {
     return names;
 }
 
-QString CupsServer::defaultQueue() {
-    const Reply reply = ask(IPP_OP_CUPS_GET_DEFAULT, {});
+QString CupsServer::findDefaultQueue() {
+    const IppPtr reply =
+        ask(printerRequest(IPP_OP_CUPS_GET_DEFAULT, {}, kName), QStringLiteral("CUPS"));
     ipp_attribute_t *name = ippFindAttribute(reply.get(), "printer-name", IPP_TAG_NAME);
-    if (!name)
-        throw HostError(QStringLiteral("CUPS server ") + m_name,
-                        QStringLiteral("has no default queue"));
-    return QString::fromUtf8(ippGetString(name, 0, nullptr));
+    return name ? QString::fromUtf8(ippGetString(name, 0, nullptr)) : QString();
+}
+
+QString CupsServer::defaultQueue() {
+    const QString name = findDefaultQueue();
+    if (name.isNull())
+        throw HostError(HostWords::tr("CUPS server %1").arg(m_name),
+                        HostWords::tr("has no default queue"));
+    return name;
 }
 
 QByteArray CupsServer::ppd(const QString &queue) {
+    const QByteArray text = findPpd(queue);
+    if (text.isNull())
+        throw HostError(queue, HostWords::tr("the queue has no PPD"));
+    return text;
+}
+
+QByteArray CupsServer::findPpd(const QString &queue) {
     requireQueue(queue);
     const QByteArray path = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
+    const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
     httpClearFields(m_http.get());
     if (httpGet(m_http.get(), path.constData()) != 0 &&
-        (httpReconnect2(m_http.get(), m_deadlines.connectMs, nullptr) != 0 ||
-         httpGet(m_http.get(), path.constData()) != 0))
+        (!reconnect() || httpGet(m_http.get(), path.constData()) != 0))
         throw HostError(queue, failure());
     http_status_t status;
     do
@@ -149,20 +229,29 @@ QByteArray CupsServer::ppd(const QString &queue) {
         throw HostError(queue, failure());
     if (status != HTTP_STATUS_OK) {
         httpFlush(m_http.get());
-        throw HostError(queue, status == HTTP_STATUS_NOT_FOUND
-                                   ? QStringLiteral("the queue has no PPD")
-                                   : QStringLiteral("its PPD can't be read: ") +
-                                         QString::fromUtf8(httpStatus(status)));
+        if (status == HTTP_STATUS_NOT_FOUND)
+            return {};
+        throw HostError(
+            queue,
+            HostWords::tr("its PPD can't be read: %1").arg(QString::fromUtf8(httpStatus(status))));
     }
-    QByteArray text;
+    return readBody(queue);
+}
+
+QByteArray CupsServer::readBody(const QString &queue) {
+    QByteArray text(""); // an empty file is one, too
     char block[16384];
-    QElapsedTimer timer;
-    timer.start();
     for (ssize_t count; (count = httpRead2(m_http.get(), block, sizeof block)) != 0;) {
-        if (count < 0 || timer.hasExpired(qint64(6000 * m_deadlines.replySeconds)))
+        if (count < 0)
             throw HostError(queue, failure());
         text.append(block, count);
+        if (text.size() > kLargestPpd)
+            throw HostError(queue, HostWords::tr("its PPD is too large"));
     }
+    // A connection that ends too early, by the watch's hand or another, reads as an end, too.
+    if (m_watch.hasExpired() || m_watch.isStopped() || httpError(m_http.get()) != 0 ||
+        httpGetRemaining(m_http.get()) > 0)
+        throw HostError(queue, failure());
     return text;
 }
 
@@ -196,11 +285,10 @@ int CupsServer::createJob(const CupsJob &job) {
                      text.constData());
     cupsEncodeOptions2(request, count, list, IPP_TAG_SUBSCRIPTION); // groups stand in this order
     cupsFreeOptions(count, list);
-    const Reply reply(cupsDoRequest(m_http.get(), request,
-                                    printer.mid(printer.indexOf("/printers/")).constData()));
-    ipp_attribute_t *id =
-        reply ? ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER) : nullptr;
-    if (!id || ippGetStatusCode(reply.get()) > IPP_STATUS_OK_CONFLICTING)
+    const IppPtr reply =
+        ask(request, job.queue, printer.mid(printer.indexOf("/printers/")).constData());
+    ipp_attribute_t *id = ippFindAttribute(reply.get(), "job-id", IPP_TAG_INTEGER);
+    if (!id || !isFine(reply))
         throw HostError(job.queue, failure());
     return ippGetInteger(id, 0);
 }
@@ -211,6 +299,7 @@ int CupsServer::submit(const CupsJob &job, const std::function<bool(qint64)> &pr
     const int id = createJob(job);
     bool givenUp = false;
     const auto send = [&] {
+        const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
         if (cupsStartDocument(m_http.get(), queue.constData(), id, job.title.toUtf8().constData(),
                               job.format, 1) != HTTP_STATUS_CONTINUE)
             return false;
@@ -219,19 +308,22 @@ int CupsServer::submit(const CupsJob &job, const std::function<bool(qint64)> &pr
             givenUp = progress && !progress(at);
             if (givenUp)
                 return false;
+            m_watch.restart(); // each piece has its time for itself
             if (cupsWriteRequestData(m_http.get(), job.document.constData() + at,
                                      size_t(qMin(kBlock, job.document.size() - at))) !=
                 HTTP_STATUS_CONTINUE)
                 return false;
         }
+        m_watch.restart();
         return cupsFinishDocument(m_http.get(), queue.constData()) <= IPP_STATUS_OK_CONFLICTING;
     };
     if (!send()) {
-        const QString reason = givenUp ? QStringLiteral("the job was cancelled") : failure();
+        const QString reason = givenUp ? HostWords::tr("the job was cancelled") : failure();
         if (givenUp) { // the server still waits for the rest on this connection
             m_http.reset();
             connect();
         }
+        const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
         cupsCancelJob2(m_http.get(), queue.constData(), id, 0);
         throw HostError(job.queue, reason);
     }
@@ -250,9 +342,9 @@ JobState CupsServer::jobState(int job) {
                                          "job-media-sheets-completed"};
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   int(std::size(wanted)), nullptr, wanted);
-    const Reply reply(cupsDoRequest(m_http.get(), request, "/"));
-    const QString subject = QStringLiteral("job %1").arg(job);
-    if (!reply || ippGetStatusCode(reply.get()) > IPP_STATUS_OK_CONFLICTING)
+    const QString subject = HostWords::tr("job %1").arg(job);
+    const IppPtr reply = ask(request, subject);
+    if (!isFine(reply))
         throw HostError(subject, failure());
     JobState state;
     if (ipp_attribute_t *found = ippFindAttribute(reply.get(), "job-state", IPP_TAG_ENUM))
@@ -267,9 +359,10 @@ JobState CupsServer::jobState(int job) {
 }
 
 void CupsServer::cancelJob(const QString &queue, int job) {
+    const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
     if (cupsCancelJob2(m_http.get(), queue.toUtf8().constData(), job, 0) >
         IPP_STATUS_OK_CONFLICTING)
-        throw HostError(QStringLiteral("job %1").arg(job), failure());
+        throw HostError(HostWords::tr("job %1").arg(job), failure());
 }
 
 } // namespace host

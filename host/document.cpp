@@ -3,6 +3,7 @@
 #include "host/files.h"
 #include "host/host_error.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr qint64 kGreatestDocument = qint64(1) << 30;
 constexpr int kConversionMs = 120 * 1000;
+constexpr int kLookMs = 50; ///< between two looks at whether a conversion is still wanted
 constexpr char kEndOfTransmission = '\x04';
 
 /// "Universal exit language", which opens and closes the job control around a document.
@@ -25,8 +27,8 @@ constexpr qsizetype kPdfWindow = 1024;
 
 struct Converter {
     const char *program;
-    QStringList arguments; ///< before the file
-    QStringList output;    ///< behind the file
+    QStringList arguments; ///< before the input
+    QStringList output;    ///< behind the input
 };
 
 const Converter kConverters[] = {
@@ -37,6 +39,66 @@ const Converter kConverters[] = {
       QStringLiteral("-sOutputFile=-"), QStringLiteral("-sstdout=%stderr"), QStringLiteral("-f")},
      {}},
 };
+
+/// For looking at, with a page size in points for documents that don't set one.
+const Converter kViewers[] = {
+    {"gs",
+     {QStringLiteral("-q"), QStringLiteral("-dNOPAUSE"), QStringLiteral("-dBATCH"),
+      QStringLiteral("-dSAFER"), QStringLiteral("-sDEVICE=pdfwrite"),
+      QStringLiteral("-sOutputFile=-"), QStringLiteral("-sstdout=%stderr"),
+      QStringLiteral("-dDEVICEWIDTHPOINTS=%1"), QStringLiteral("-dDEVICEHEIGHTPOINTS=%1")},
+     {}},
+};
+
+bool isInstalled(const Converter &converter) {
+    return !QStandardPaths::findExecutable(QString::fromLatin1(converter.program)).isEmpty();
+}
+
+/// Runs a converter. @param input  what it reads from its standard input; null for nothing
+/// @throw HostError
+QByteArray run(const Converter &converter, const Document &document, const QStringList &arguments,
+               const QByteArray &input, const char *format, const QByteArray &signature,
+               const std::atomic<bool> *givenUp) {
+    const QString program = QString::fromLatin1(converter.program);
+    QProcess process;
+    if (input.isNull())
+        process.setStandardInputFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    if (!input.isNull()) {
+        process.write(input);
+        process.closeWriteChannel();
+    }
+    const QDeadlineTimer deadline(kConversionMs);
+    const auto isWanted = [&] {
+        return !(givenUp && *givenUp) && !deadline.hasExpired() &&
+               process.bytesAvailable() <= kGreatestDocument;
+    };
+    while (!process.waitForFinished(kLookMs) && process.error() == QProcess::Timedout && isWanted())
+        ;
+    if (process.state() != QProcess::NotRunning || process.error() == QProcess::FailedToStart) {
+        const QString error = process.error() != QProcess::Timedout ? process.errorString()
+                              : deadline.hasExpired()
+                                  ? QStringLiteral("%1 didn't finish within %2 seconds")
+                                        .arg(program)
+                                        .arg(kConversionMs / 1000)
+                              : givenUp && *givenUp ? QStringLiteral("given up")
+                                                    : program + QStringLiteral(" wrote too much");
+        process.kill();
+        process.waitForFinished(-1);
+        throw HostError(document.path, error);
+    }
+    const QByteArray text = process.readAllStandardOutput();
+    const QString complaint =
+        QString::fromLocal8Bit(process.readAllStandardError()).section(u'\n', 0, 0);
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0 ||
+        !text.startsWith(signature))
+        throw HostError(
+            document.path,
+            QStringLiteral("%1 can't convert it to %2%3")
+                .arg(program, QLatin1String(format),
+                     complaint.isEmpty() ? complaint : QStringLiteral(": ") + complaint));
+    return text;
+}
 
 } // namespace
 
@@ -88,40 +150,30 @@ Document readDocument(const QString &path) {
 QByteArray toPostScript(const Document &document) {
     if (document.type == Document::Type::PostScript)
         return document.content;
-    for (const Converter &converter : kConverters) {
-        const QString program = QString::fromLatin1(converter.program);
-        if (QStandardPaths::findExecutable(program).isEmpty())
-            continue;
-        QProcess process;
-        process.setStandardInputFile(QProcess::nullDevice());
-        process.start(program, converter.arguments +
-                                   QStringList{QFileInfo(document.path).absoluteFilePath()} +
-                                   converter.output);
-        if (!process.waitForFinished(kConversionMs)) {
-            const bool late = process.error() == QProcess::Timedout;
-            const QString error = process.errorString();
-            process.kill();
-            process.waitForFinished(-1);
-            throw HostError(document.path,
-                            late ? QStringLiteral("%1 didn't finish within %2 seconds")
-                                       .arg(program)
-                                       .arg(kConversionMs / 1000)
-                                 : program + QStringLiteral(": ") + error);
-        }
-        const QByteArray text = process.readAllStandardOutput();
-        const QString complaint =
-            QString::fromLocal8Bit(process.readAllStandardError()).section(u'\n', 0, 0);
-        if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0 ||
-            !text.startsWith("%!"))
-            throw HostError(document.path,
-                            QStringLiteral("%1 can't convert it to PostScript%2")
-                                .arg(program, complaint.isEmpty()
-                                                  ? complaint
-                                                  : QStringLiteral(": ") + complaint));
-        return text;
-    }
+    for (const Converter &converter : kConverters)
+        if (isInstalled(converter))
+            return run(converter, document,
+                       converter.arguments +
+                           QStringList{QFileInfo(document.path).absoluteFilePath()} +
+                           converter.output,
+                       {}, "PostScript", "%!", nullptr);
     throw HostError(document.path,
                     QStringLiteral("a PDF needs pdftops or gs, and neither is installed"));
+}
+
+QByteArray toPdf(const Document &document, QSizeF page, const std::atomic<bool> *givenUp) {
+    if (document.type == Document::Type::Pdf)
+        return document.content;
+    for (const Converter &converter : kViewers) {
+        if (!isInstalled(converter))
+            continue;
+        QStringList arguments = converter.arguments;
+        arguments.last() = arguments.last().arg(page.height());
+        arguments[arguments.size() - 2] = arguments[arguments.size() - 2].arg(page.width());
+        return run(converter, document, arguments + QStringList{QStringLiteral("-")},
+                   document.content, "PDF", "%PDF-", givenUp);
+    }
+    throw HostError(document.path, QStringLiteral("PostScript needs gs, which isn't installed"));
 }
 
 } // namespace host

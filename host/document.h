@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSizeF>
 #include <QString>
+
+#include <atomic>
 
 namespace host {
 
@@ -22,6 +25,14 @@ Document readDocument(const QString &path);
 /// The document as PostScript: a PDF is converted by pdftops, or by gs where that is missing.
 /// @throw HostError if neither is there, or it fails or needs longer than two minutes
 QByteArray toPostScript(const Document &document);
+
+/// The document as PDF, to be looked at: PostScript is converted by gs, which needs no showpage
+/// behind the last page. Meant for a thread of its own.
+/// @param page     the size in points of pages that don't set their own
+/// @param givenUp  the conversion is killed soon after this turns true; may be null
+/// @throw HostError if gs isn't there, or it fails, writes over 1 GiB, needs longer than two
+///        minutes or is given up
+QByteArray toPdf(const Document &document, QSizeF page, const std::atomic<bool> *givenUp = nullptr);
 
 /// The part of a PostScript file that is PostScript, see readDocument; null without one.
 QByteArray barePostScript(const QByteArray &content);

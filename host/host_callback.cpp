@@ -10,7 +10,11 @@ HostCallback::HostCallback(ppd_file_t *ppd, const Printer &printer) : m_ppd(ppd)
 
 bool HostCallback::willChangePPDOptionKeyValue(const QString &option, const QString &choice) {
     m_calls.append({option, choice});
-    return m_ppd && markChoice(m_ppd, option.toUtf8().constData(), choice.toUtf8().constData());
+    const bool marked =
+        m_ppd && markChoice(m_ppd, option.toUtf8().constData(), choice.toUtf8().constData());
+    if (marked && m_observer)
+        m_observer();
+    return marked;
 }
 
 } // namespace host

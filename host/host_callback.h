@@ -6,6 +6,8 @@
 #include <QPair>
 #include <QString>
 
+#include <functional>
+
 namespace host {
 
 /// The host's side of a dialog: PPD, settings and session, and a record of what panels ask for.
@@ -22,6 +24,9 @@ public:
     PMPrintSession printSession() override { return &m_session; }
     bool willChangePPDOptionKeyValue(const QString &option, const QString &choice) override;
 
+    /// Called after each change of a mark that a panel asks for.
+    void setObserver(std::function<void()> observer) { m_observer = std::move(observer); }
+
     const PrintSettings &settings() const { return m_settings; }
     /// What was asked for since the last call of this function, granted or not, in order.
     QList<Call> takeCalls() { return std::exchange(m_calls, {}); }
@@ -31,6 +36,7 @@ private:
     PrintSettings m_settings;
     PrintSession m_session;
     QList<Call> m_calls;
+    std::function<void()> m_observer;
 };
 
 } // namespace host

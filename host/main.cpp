@@ -1,5 +1,5 @@
 #include "host/command_line.h"
-#include "host/dialog.h"
+#include "host/dialog/dialog_command.h"
 #include "host/drive.h"
 #include "host/host_error.h"
 #include "host/inspect.h"

@@ -49,7 +49,7 @@ PanelSession &PanelStage::session() {
     return *m_session;
 }
 
-bool PanelStage::open() {
+bool PanelStage::open(QBoxLayout *home) {
     if (!session().hasPanel())
         return false;
     QWidget *view = m_session->load();
@@ -58,6 +58,8 @@ bool PanelStage::open() {
     m_window = std::make_unique<QWidget>();
     m_window->setWindowTitle(m_session->name());
     placeView(new QVBoxLayout(m_window.get()), view);
+    if (home)
+        home->addWidget(m_window.get());
     m_session->show();
     m_window->show();
     return true;
@@ -66,6 +68,11 @@ bool PanelStage::open() {
 void PanelStage::close() {
     m_session.reset();
     m_window.reset();
+}
+
+void PanelStage::startAnew() {
+    close();
+    m_callback = std::make_shared<HostCallback>(m_source.ppd.get(), m_source.printer);
 }
 
 } // namespace host

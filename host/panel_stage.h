@@ -17,8 +17,6 @@ struct CommandLine;
 
 /// All that one panel needs, put together in the order in which it must outlive each other: the
 /// queue's PPD, the host object, a plain window, and the panel itself.
-///
-/// The dialog shows panels in a window of its own; every other command shows them here.
 class PanelStage {
 public:
     /// Opens the PPD and applies what the command line names: a preset, then choices and settings.
@@ -28,20 +26,23 @@ public:
     PanelStage(PpdSource source, PDEPlugin &plugin);
     ~PanelStage();
 
-    PpdSource &source() { return m_source; }
-    HostCallback &callback() { return *m_callback; }
+    const PpdSource &source() const { return m_source; }
+    HostCallback &callback() const { return *m_callback; }
     /// Options of the job that are none of the PPD, from the preset of the command line.
     const QMap<QString, QString> &jobOptions() const { return m_jobOptions; }
     /// The panel of this queue; made anew when the former one was closed.
     PanelSession &session();
 
     /// The whole road of a shown panel.
+    /// @param home  where the panel shall stand; null for a window of its own
     /// @return false if the queue has no panel, or that has no layout
-    bool open();
+    bool open(QBoxLayout *home = nullptr);
     /// Closes the panel and its window.
     void close();
+    /// Closes the panel and forgets all print settings and what is known of the session.
+    void startAnew();
     bool isOpen() const { return m_session && m_session->isOpen(); }
-    /// The window of the open panel, or null.
+    /// The window of the open panel, or what stands in its home; else null.
     QWidget *window() const { return m_window.get(); }
 
 private:

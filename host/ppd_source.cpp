@@ -24,8 +24,12 @@ PpdSource openPpdFile(const QString &path) {
     return {taken(readPpdFile(path), path), Printer{QFileInfo(path).completeBaseName()}, path};
 }
 
+PpdSource openPpdText(const QByteArray &text, const QString &queue) {
+    return {taken(parsePpdFile(text), queue), Printer{queue}};
+}
+
 PpdSource openQueue(CupsServer &server, const QString &queue) {
-    return {taken(parsePpdFile(server.ppd(queue)), queue), Printer{queue}};
+    return openPpdText(server.ppd(queue), queue);
 }
 
 void markChoices(const PpdSource &source, const QList<QPair<QString, QString>> &marks) {

@@ -23,6 +23,8 @@ struct PpdSource {
 /// Opens a PPD file, plain or gzipped. @throw HostError with the line where libcups refuses the
 /// file or where it is cut off
 PpdSource openPpdFile(const QString &path);
+/// A queue whose PPD was taken from CUPS. @throw HostError where libcups refuses it
+PpdSource openPpdText(const QByteArray &text, const QString &queue);
 /// Takes a queue's PPD from CUPS. @throw HostError
 PpdSource openQueue(CupsServer &server, const QString &queue);
 

@@ -1,7 +1,7 @@
 #include "host/presets/applied_preset.h"
 
 #include "host/custom_value.h"
-#include "host/presets/words.h"
+#include "host/words.h"
 #include "platform/ppd_marks.h"
 #include "platform/utf8.h"
 
@@ -74,16 +74,16 @@ private:
         };
         if (isCustom(choice)) {
             if (!ppdFindChoice(&option, "Custom"))
-                return tell(PresetWords::tr("a value of one's own (“%1”) is no longer taken"));
+                return tell(HostWords::tr("a value of one's own (“%1”) is no longer taken"));
             const QStringList former = standing(option);
             if (!markText(option, choice) || !customValueFits(m_ppd, option)) {
                 unmark(option);
                 for (const QString &each : former)
                     markText(option, each);
-                tell(PresetWords::tr("“%1” is outside of what this printer takes"));
+                tell(HostWords::tr("“%1” is outside of what this printer takes"));
             }
         } else if (!markText(option, choice)) {
-            tell(PresetWords::tr("“%1” is no longer there"));
+            tell(HostWords::tr("“%1” is no longer there"));
         }
     }
 
@@ -120,7 +120,7 @@ void tellMissingOptions(const Preset &preset, ppd_file_t *ppd, QStringList &prob
     for (auto row = preset.choices.begin(); row != preset.choices.end(); ++row)
         if (!ppd || !ppdFindOption(ppd, row.key().toUtf8().constData()))
             problems.append(
-                PresetWords::tr("“%1” is no longer a setting of this printer; the preset has “%2”")
+                HostWords::tr("“%1” is no longer a setting of this printer; the preset has “%2”")
                     .arg(row.key(), row->join(QStringLiteral(", "))));
 }
 
@@ -130,7 +130,7 @@ void putSettings(const Preset &preset, PrintSettings &settings, QStringList &pro
         if (entry && entry->value == row->value && entry->locked == row->locked)
             continue;
         if (settings.set(row.key(), row->value, row->locked) != kPMNoError)
-            problems.append(PresetWords::tr("%1: is locked and stays “%2”")
+            problems.append(HostWords::tr("%1: is locked and stays “%2”")
                                 .arg(row.key(), entry ? entry->value : QString()));
     }
 }
@@ -145,7 +145,7 @@ void tellSecrets(const Preset &preset, ppd_file_t *ppd, QStringList &problems) {
         const ppd_option_t *option = ppd ? ppdFindOption(ppd, key.toUtf8().constData()) : nullptr;
         if (!option || !hasItsSecrets(ppd, *option))
             problems.append((option ? titleOf(*option) : key) + QStringLiteral(": ") +
-                            PresetWords::tr("passwords aren't kept in presets; enter it again"));
+                            HostWords::tr("passwords aren't kept in presets; enter it again"));
     }
 }
 

@@ -1,7 +1,7 @@
 #include "host/presets/name_dialog.h"
 
 #include "host/presets/preset.h"
-#include "host/presets/words.h"
+#include "host/words.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -32,7 +32,7 @@ std::optional<QString> askPresetName(QWidget *parent, const QString &question,
     problem->setWordWrap(true);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
     auto *layout = new QFormLayout(dialog);
-    layout->addRow(PresetWords::tr("&Name:"), edit);
+    layout->addRow(HostWords::tr("&Name:"), edit);
     layout->addRow(problem);
     layout->addRow(buttons);
 
@@ -40,7 +40,7 @@ std::optional<QString> askPresetName(QWidget *parent, const QString &question,
         const QString fault = presetNameProblem(edit->text().trimmed());
         buttons->button(QDialogButtonBox::Save)->setEnabled(fault.isNull());
         const bool told = !fault.isNull() && !edit->text().isEmpty();
-        const QString words = told ? PresetWords::tr("Not possible: %1.").arg(fault) : QString();
+        const QString words = told ? HostWords::tr("Not possible: %1.").arg(fault) : QString();
         edit->setAccessibleDescription(words);
         problem->setText(told ? words : QStringLiteral(" ")); // so that the window stays put
         dialog->resize(dialog->size().expandedTo(

@@ -1,6 +1,6 @@
 #include "host/presets/preset.h"
 
-#include "host/presets/words.h"
+#include "host/words.h"
 
 #include <algorithm>
 #include <iterator>
@@ -24,17 +24,17 @@ bool Preset::setsSameAs(const Preset &other) const {
 
 QString presetNameProblem(const QString &name) {
     if (name.trimmed().isEmpty())
-        return PresetWords::tr("the name is empty");
+        return HostWords::tr("the name is empty");
     if (name != name.trimmed())
-        return PresetWords::tr("the name begins or ends with a blank");
+        return HostWords::tr("the name begins or ends with a blank");
     if (name.size() > kLongestName)
-        return PresetWords::tr("the name has more than %1 characters").arg(kLongestName);
+        return HostWords::tr("the name has more than %1 characters").arg(kLongestName);
     const bool isLine = std::none_of(name.begin(), name.end(), [](QChar c) {
         return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
                c.category() == QChar::Separator_Paragraph;
     });
     if (!isLine || !name.isValidUtf16())
-        return PresetWords::tr("the name has a character that can't be shown");
+        return HostWords::tr("the name has a character that can't be shown");
     return {};
 }
 

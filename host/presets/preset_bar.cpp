@@ -23,6 +23,7 @@ constexpr int kListCharacters = 24; // longer names don't widen the window
 PresetBar::PresetBar(const PresetStore &store, std::function<Preset()> current, QWidget *parent)
     : QWidget(parent), m_store(store), m_current(std::move(current)), m_list(new QComboBox),
       m_problems(new ProblemArea) {
+    setObjectName(QStringLiteral("presetBar"));
     auto *label = new QLabel(tr("Pr&eset:"));
     label->setBuddy(m_list);
     m_list->setObjectName(QStringLiteral("presetList"));
@@ -138,6 +139,10 @@ bool PresetBar::choose(const QString &name) {
 
 bool PresetBar::chooseLastUsed() {
     return apply(indexOf({Kind::LastUsed, {}, {}}));
+}
+
+bool PresetBar::chooseInstance(const QString &name) {
+    return apply(indexOf({Kind::Instance, name, {}}));
 }
 
 void PresetBar::pick(int index) {

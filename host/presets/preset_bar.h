@@ -41,6 +41,8 @@ public:
     bool choose(const QString &name);
     /// Chooses the last used settings as the person does. @return false without any
     bool chooseLastUsed();
+    /// Chooses an instance as the person does. @return false if there is none of that name
+    bool chooseInstance(const QString &name);
 
     /// What couldn't be applied of the chosen row, a line each; an empty list takes them away.
     void setProblems(const QStringList &lines);

@@ -1,7 +1,7 @@
 #include "host/presets/preset_files.h"
 
 #include "host/host_error.h"
-#include "host/presets/words.h"
+#include "host/words.h"
 #include "platform/file_content.h"
 #include "platform/utf8.h"
 
@@ -53,13 +53,13 @@ std::optional<QString> nameFromFile(const QString &fileName) {
 
 void makeFolder(const QString &folder) {
     if (!QDir().mkpath(folder))
-        throw HostError(folder, PresetWords::tr("can't be made"));
+        throw HostError(folder, HostWords::tr("can't be made"));
 }
 
 void writeFile(const QString &path, const QByteArray &content) {
     QString reason;
     if (!writeWholeFile(path, content, &reason))
-        throw HostError(path, PresetWords::tr("can't be written: %1").arg(reason));
+        throw HostError(path, HostWords::tr("can't be written: %1").arg(reason));
 }
 
 FolderLock::FolderLock(const QString &folder) {
@@ -68,14 +68,14 @@ FolderLock::FolderLock(const QString &folder) {
     m_file = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK,
                     0600);
     if (m_file < 0)
-        throw HostError(path, PresetWords::tr("can't be written: %1")
+        throw HostError(path, HostWords::tr("can't be written: %1")
                                   .arg(QString::fromLocal8Bit(std::strerror(errno))));
     for (int tries = 0; ::flock(m_file, LOCK_EX | LOCK_NB) != 0; ++tries) {
         if (errno != EWOULDBLOCK && errno != EINTR)
             return;
         if (tries == kLockTries) {
             ::close(m_file);
-            throw HostError(folder, PresetWords::tr("is in use by another program"));
+            throw HostError(folder, HostWords::tr("is in use by another program"));
         }
         QThread::msleep(kLockPauseMs);
     }

@@ -1,5 +1,5 @@
 #include "host/presets/preset.h"
-#include "host/presets/words.h"
+#include "host/words.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,7 +24,7 @@ struct Refusal {
 }
 
 [[noreturn]] void refuseType(const QString &key) {
-    refuse(PresetWords::tr("“%1” isn't what it should be").arg(key));
+    refuse(HostWords::tr("“%1” isn't what it should be").arg(key));
 }
 
 QString textOf(const QJsonValue &value, const QString &key) {
@@ -32,7 +32,7 @@ QString textOf(const QJsonValue &value, const QString &key) {
         refuseType(key);
     QString text = value.toString();
     if (text.contains(QChar(u'\0')) || !text.isValidUtf16())
-        refuse(PresetWords::tr("“%1” has a character that is none").arg(key));
+        refuse(HostWords::tr("“%1” has a character that is none").arg(key));
     return text;
 }
 
@@ -55,7 +55,7 @@ QMap<QString, Value> mapOf(const QJsonObject &file, const char *key, const Read 
     const QJsonObject object = value.toObject();
     for (auto member = object.begin(); member != object.end(); ++member) {
         if (textOf(member.key(), QLatin1String(key)).isEmpty())
-            refuse(PresetWords::tr("“%1” has an empty key").arg(QLatin1String(key)));
+            refuse(HostWords::tr("“%1” has an empty key").arg(QLatin1String(key)));
         map.insert(member.key(), read(member.value(), member.key()));
     }
     return map;
@@ -96,27 +96,27 @@ qsizetype colonCount(const QByteArray &json) {
 
 QJsonObject readObject(const QByteArray &text) {
     if (text.size() > kGreatestPresetFile)
-        refuse(PresetWords::tr("is larger than %1 MB").arg(kGreatestPresetFile >> 20));
+        refuse(HostWords::tr("is larger than %1 MB").arg(kGreatestPresetFile >> 20));
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
-        refuse(PresetWords::tr("isn't a preset: line %1: %2")
+        refuse(HostWords::tr("isn't a preset: line %1: %2")
                    .arg(text.left(error.offset).count('\n') + 1)
                    .arg(error.errorString()));
     const QJsonObject file = document.object();
     if (file[QLatin1String("format")] != QLatin1String(kFormat))
-        refuse(PresetWords::tr("isn't a preset"));
+        refuse(HostWords::tr("isn't a preset"));
     // The reader keeps the last of several members of one key.
     if (memberCount(file) != colonCount(text))
-        refuse(PresetWords::tr("has a key twice"));
+        refuse(HostWords::tr("has a key twice"));
     return file;
 }
 
 void checkVersion(const QJsonValue &version) {
     const double number = version.toDouble();
     if (number > kVersion)
-        refuse(PresetWords::tr("was made by a newer version of this program (format %1); it is "
-                               "left as it is")
+        refuse(HostWords::tr("was made by a newer version of this program (format %1); it is "
+                             "left as it is")
                    .arg(number));
     if (number != kVersion)
         refuseType(QStringLiteral("version"));
@@ -128,7 +128,7 @@ void checkKeys(const QJsonObject &file) {
     for (const QString &key : file.keys())
         if (std::none_of(std::begin(kKeys), std::end(kKeys),
                          [&](const char *known) { return key == QLatin1String(known); }))
-            refuse(PresetWords::tr("has the unknown key “%1”").arg(key));
+            refuse(HostWords::tr("has the unknown key “%1”").arg(key));
 }
 
 Preset presetFrom(const QJsonObject &file) {

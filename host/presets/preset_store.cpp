@@ -3,7 +3,7 @@
 #include "host/files.h"
 #include "host/host_error.h"
 #include "host/presets/preset_files.h"
-#include "host/presets/words.h"
+#include "host/words.h"
 #include "platform/file_content.h"
 
 #include <QCollator>
@@ -76,7 +76,7 @@ void checkName(const QString &name) {
 void removeFile(const QString &path, const QString &subject) {
     QFile file(path);
     if (!file.remove())
-        throw HostError(subject, PresetWords::tr("can't be removed: %1").arg(file.errorString()));
+        throw HostError(subject, HostWords::tr("can't be removed: %1").arg(file.errorString()));
 }
 
 } // namespace
@@ -141,7 +141,7 @@ QList<PresetRow> PresetStore::list(const QString &queue) const {
 Preset PresetStore::load(const QString &queue, const QString &name) const {
     const QString path = pathOf(queue, name);
     if (!exists(path))
-        throw HostError(name, PresetWords::tr("“%1” has no preset of this name").arg(queue));
+        throw HostError(name, HostWords::tr("“%1” has no preset of this name").arg(queue));
     Preset preset = readOrThrow(path, name);
     preset.name = name;
     preset.queue = queue;
@@ -152,7 +152,7 @@ PresetStore::Outcome PresetStore::save(const Preset &preset, Existing existing) 
     checkName(preset.name);
     const QByteArray text = presetText(preset);
     if (text.size() > kGreatestPresetFile)
-        throw HostError(preset.name, PresetWords::tr("is too large for a preset"));
+        throw HostError(preset.name, HostWords::tr("is too large for a preset"));
     const FolderLock lock(m_folder);
     const QString path = pathOf(preset.queue, preset.name);
     if (existing == Existing::Keep && exists(path))
@@ -203,7 +203,7 @@ std::optional<Preset> PresetStore::lastUsed(const QString &queue) const {
     if (!hasLastUsed(queue))
         return std::nullopt;
     return readOrThrow(lastUsedPath(queue),
-                       PresetWords::tr("The last used settings of “%1”").arg(queue));
+                       HostWords::tr("The last used settings of “%1”").arg(queue));
 }
 
 bool PresetStore::hasLastUsed(const QString &queue) const {

@@ -2,38 +2,14 @@
 #include "support/cups_daemon.h"
 #include "support/ppd_text.h"
 
-#include "host/bundle_loader.h"
-#include "host/cups_server.h"
-#include "host/dialog.h"
-#include "platform/views/modal_window.h"
-#include "platform/views/stepper_view.h"
-
 #include <QElapsedTimer>
 #include <QFile>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
 #include <sys/socket.h>
 #include <unistd.h>
-
-namespace {
-
-/// The features of a PostScript job, "*Keyword Choice", in order; page features of later pages too.
-QStringList features(const QByteArray &job) {
-    static const QRegularExpression pattern("^%%BeginFeature: (\\*\\S+ \\S+)",
-                                            QRegularExpression::MultilineOption);
-    QStringList found;
-    for (auto match = pattern.globalMatch(QString::fromLatin1(job)); match.hasNext();)
-        found.append(match.next().captured(1));
-    found.removeDuplicates();
-    return found;
-}
-
-} // namespace
 
 /// What the host puts into a file is what CUPS' own filters make of the job that it sends.
 TEST(Cups, FiltersPrintTheMarks) {
@@ -64,8 +40,8 @@ TEST(Cups, FiltersPrintTheMarks) {
         EXPECT_TRUE(toQueue.out.startsWith("Queue-")) << toQueue.out.constData();
         ASSERT_TRUE(cups.waitForJobs("Queue")) << cups.log().constData();
 
-        QStringList printed = features(readFile(cups.outputOf("Queue")));
-        QStringList written = features(readFile(cups.folder() + "/job.ps"));
+        QStringList printed = printedFeatures(readFile(cups.outputOf("Queue")));
+        QStringList written = printedFeatures(readFile(cups.folder() + "/job.ps"));
         EXPECT_TRUE(printed.contains("*QZColorMode Black")) << document << cups.log().constData();
         EXPECT_TRUE(cups.log().contains("com.velmora.test=a\\\\ b")) << "a print setting";
         EXPECT_TRUE(printed.contains("*Duplex DuplexNoTumble")) << document;
@@ -136,37 +112,4 @@ TEST(Cups, CustomValuesReachTheFilters) {
     ASSERT_TRUE(cups.waitForJobs("Queue")) << cups.log().constData();
     EXPECT_TRUE(readFile(cups.outputOf("Queue")).contains("(it's two words)\n42\n"))
         << readFile(cups.outputOf("Queue")).left(3000).constData();
-}
-
-/// The dialog on a queue, worked by a person who shifts a density and prints.
-TEST(Cups, DialogPrintsWhatItsWindowsChose) {
-    CupsDaemon cups;
-    ASSERT_TRUE(cups.start() && cups.addQueue("Queue", samplePath("velmora-mvo-530.ppd")))
-        << cups.log().constData();
-    cupsSetServer(cups.environment()[0].section('=', 1).toUtf8().constData());
-    {
-        host::CupsServer server;
-        host::PanelStage stage(host::openQueue(server, "Queue"), *host::loadBundle(BUNDLE_DIR));
-        host::PrintDialog dialog(stage, true, samplePath("sample.ps"));
-        QTimer::singleShot(0, &dialog, [&] {
-            QTimer::singleShot(0, &dialog, [] {
-                ModalWindow *window = ModalWindow::current();
-                ASSERT_TRUE(window);
-                window->findChild<QAbstractButton *>("graphicWndAdjustCBCboxCtrl")->click();
-                window->findChild<StepperView *>("gWndLowDCBLarrCtrl")->stepBy(2);
-                window->findChild<QAbstractButton *>("graphicWndOKPushCtrl")->click();
-            });
-            dialog.findChild<QAbstractButton *>("colorbalanceButtonCtrl")->click();
-            for (auto *button : dialog.findChildren<QPushButton *>())
-                if (button->isDefault())
-                    return button->click();
-        });
-        EXPECT_EQ(dialog.exec(), QDialog::Accepted);
-    }
-    cupsSetServer(nullptr);
-    ASSERT_TRUE(cups.waitForJobs("Queue")) << cups.log().constData();
-    const QStringList printed = features(readFile(cups.outputOf("Queue")));
-    for (const char *feature : {"*QZColorBalanceAdjustment True", "*QZColorDensityBlackLow 2",
-                                "*QZColorDensityCyanLow 0"})
-        EXPECT_TRUE(printed.contains(feature)) << feature;
 }

@@ -1,11 +1,14 @@
 #include "support/cups_daemon.h"
 
+#include <cups/cups.h>
+
 #include "support/run_program.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QThread>
+#include <QThreadPool>
 
 #include <csignal>
 
@@ -109,4 +112,13 @@ bool CupsDaemon::waitForJobs(const QString &queue) {
 
 QByteArray CupsDaemon::log() const {
     return readFile(m_folder.filePath("error_log"));
+}
+
+void ServerInUse::use(const QByteArray &address) {
+    if (address.isEmpty())
+        qunsetenv("CUPS_SERVER");
+    else
+        qputenv("CUPS_SERVER", address);
+    cupsSetServer(nullptr);                       // libcups keeps the name for each thread
+    QThreadPool::globalInstance()->waitForDone(); // which ends its threads
 }

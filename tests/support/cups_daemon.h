@@ -22,6 +22,8 @@ public:
     bool command(const QString &program, const QStringList &arguments, QByteArray *out = nullptr);
     /// What makes a program use this server.
     QStringList environment() const { return {"CUPS_SERVER=" + socket()}; }
+    /// The server's address as the variable has it.
+    QByteArray address() const { return socket().toUtf8(); }
     QString folder() const { return m_folder.path(); }
     QByteArray log() const;
 
@@ -30,4 +32,16 @@ private:
 
     QTemporaryDir m_folder;
     QProcess m_server;
+};
+
+/// Makes this program use a server, on all of its threads, until the object ends.
+class ServerInUse {
+public:
+    explicit ServerInUse(const QByteArray &address) { use(address); }
+    ~ServerInUse() { use({}); }
+    ServerInUse(const ServerInUse &) = delete;
+    ServerInUse &operator=(const ServerInUse &) = delete;
+
+private:
+    static void use(const QByteArray &address);
 };

@@ -4,8 +4,8 @@
 
 namespace host {
 
-/// Translates the texts of this folder's plain functions, in the context "host".
-struct PresetWords {
+/// Translates the texts of plain functions, in the context "host".
+struct HostWords {
     Q_DECLARE_TR_FUNCTIONS(host)
 };
 

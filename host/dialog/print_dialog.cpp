@@ -1,0 +1,388 @@
+#include "host/dialog/print_dialog.h"
+
+#include "host/conflicts/conflict_line.h"
+#include "host/dialog/file_printer.h"
+#include "host/dialog/job_page.h"
+#include "host/dialog/plain_label.h"
+#include "host/dialog/queue_job.h"
+#include "host/dialog/summary_page.h"
+#include "host/presets/preset_bar.h"
+#include "host/presets/problem_area.h"
+#include "host/presets/remember_box.h"
+#include "host/queues/queue_list.h"
+#include "host/settings/common_settings.h"
+#include "platform/views/alert.h"
+#include "platform/views/form_loader.h"
+#include "platform/views/modal_window.h"
+
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace host {
+namespace {
+
+enum Tab { kGeneralTab, kPanelTab, kSummaryTab };
+
+/// A page of the tabs, which scrolls up and down where the screen leaves it too little room.
+class PageArea : public QScrollArea {
+public:
+    explicit PageArea(QWidget *page) {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setWidget(page);
+        setFocusPolicy(Qt::NoFocus);
+    }
+    QSize sizeHint() const override { return grown(widget()->sizeHint()); }
+    QSize minimumSizeHint() const override {
+        return {grown(widget()->minimumSizeHint()).width(), fontMetrics().height() * 12};
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    QSize grown(QSize size) const {
+        return size + QSize(verticalScrollBar()->sizeHint().width(), 0);
+    }
+};
+
+} // namespace
+
+PrintDialog::PrintDialog(DialogSetup setup) : m_setup(std::move(setup)) {
+    setWindowTitle(tr("Print"));
+    m_form = new QWidget;
+    auto *columns = new QHBoxLayout;
+    columns->addWidget(makeDocumentSide(), 2);
+    columns->addWidget(makeTabs(), 3);
+    m_conflictLine = new ConflictLine;
+    m_problems = new ProblemArea;
+    auto *layout = new QVBoxLayout(m_form);
+    layout->addLayout(columns, 1);
+    layout->addWidget(m_conflictLine);
+    layout->addWidget(m_problems);
+    layout->addWidget(makeButtons());
+    m_jobPage = new JobPage;
+    m_pages = new QStackedWidget;
+    m_pages->addWidget(m_form);
+    m_pages->addWidget(m_jobPage);
+    auto *whole = new QVBoxLayout(this);
+    whole->setContentsMargins({});
+    whole->addWidget(m_pages);
+
+    m_refresh.setSingleShot(true);
+    m_refresh.setInterval(0);
+    connect(&m_refresh, &QTimer::timeout, this, &PrintDialog::refresh);
+    connect(m_conflictLine, &ConflictLine::resolveAsked, this,
+            [this] { settleConflicts(Purpose::Look); });
+    connect(m_jobPage, &JobPage::done, this, &PrintDialog::finish);
+    connect(m_jobPage, &JobPage::failed, this, &PrintDialog::backToForm);
+    connect(m_jobPage, &JobPage::closed, this, &QDialog::accept);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] {
+        if (m_job && m_job->stage().isOpen())
+            m_job->stage().session().help();
+    });
+    showDocument();
+    followQueues();
+    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+PrintDialog::~PrintDialog() {
+    m_refresh.stop();
+    for (const auto &[queue, job] : m_jobs)
+        job->stage().close();
+}
+
+QWidget *PrintDialog::makeDocumentSide() {
+    auto *side = new QWidget;
+    m_documentName = plainLabel();
+    m_documentName->setObjectName(QStringLiteral("documentName"));
+    auto *choose = new QPushButton(tr("&Open…"));
+    choose->setObjectName(QStringLiteral("openDocument"));
+    choose->setAutoDefault(false);
+    choose->setAccessibleName(tr("Open a document"));
+    connect(choose, &QPushButton::clicked, this, &PrintDialog::chooseDocument);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_documentName, 1);
+    row->addWidget(choose);
+    auto *layout = new QVBoxLayout(side);
+    layout->setContentsMargins({});
+    layout->addLayout(row);
+    layout->addStretch(1);
+    return side;
+}
+
+QWidget *PrintDialog::makeTabs() {
+    auto *panelPage = new QWidget;
+    m_panelHome = new QVBoxLayout(panelPage);
+    m_panelHome->setContentsMargins({});
+    m_summary = new SummaryPage;
+    m_tabs = new QTabWidget;
+    m_tabs->setObjectName(QStringLiteral("pages"));
+    m_tabs->addTab(new PageArea(makeGeneralPage()), tr("General"));
+    m_tabs->addTab(new PageArea(panelPage), {});
+    m_tabs->addTab(new PageArea(m_summary), tr("Summary"));
+    m_tabs->setTabVisible(kPanelTab, false);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &PrintDialog::leaveTab);
+    return m_tabs;
+}
+
+QWidget *PrintDialog::makeGeneralPage() {
+    m_list = new QueueList;
+    m_list->setRecent(m_setup.store.recentQueues());
+    m_notice = plainLabel();
+    m_notice->setObjectName(QStringLiteral("printerNotice"));
+    m_notice->setWordWrap(true);
+    m_presets = new PresetBar(m_setup.store, [this] {
+        savePanel();
+        return m_job ? m_job->preset() : Preset{};
+    });
+    m_remember = new RememberBox(m_setup.store);
+    m_common = new CommonSettings;
+    m_settingsPart = new QWidget;
+    auto *part = new QVBoxLayout(m_settingsPart);
+    part->setContentsMargins({});
+    part->addWidget(m_presets);
+    part->addWidget(m_common);
+    part->addWidget(m_remember);
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->addWidget(m_list, 1);
+    layout->addWidget(m_notice);
+    layout->addWidget(m_settingsPart);
+
+    connect(m_common, &CommonSettings::changed, this, &PrintDialog::takeChange);
+    connect(m_presets, &PresetBar::chosen, this, [this](const Preset *preset) {
+        change([preset](QueueJob &job) { return preset ? job.use(*preset) : job.useDefaults(); });
+    });
+    connect(m_presets, &PresetBar::instanceChosen, this, [this](const QString &name) {
+        change([&](QueueJob &job) { return job.useDefaults(name); });
+    });
+    return page;
+}
+
+QDialogButtonBox *PrintDialog::makeButtons() {
+    auto *buttons = new QDialogButtonBox;
+    buttons->setObjectName(QStringLiteral("buttons"));
+    m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
+    QPushButton *cancel = buttons->addButton(QDialogButtonBox::Cancel);
+    m_print->setDefault(true);
+    cancel->setAutoDefault(false);
+    connect(m_print, &QPushButton::clicked, this, &PrintDialog::print);
+    connect(cancel, &QPushButton::clicked, this, &PrintDialog::reject);
+    return buttons;
+}
+
+void PrintDialog::reject() {
+    if (ModalWindow::current() || !views::currentAlert().isNull())
+        return;
+    if (m_jobPage->isUnderWay())
+        m_jobPage->giveUp();
+    else if (m_pages->currentWidget() == m_jobPage)
+        accept(); // the job is sent
+    else
+        QDialog::reject();
+}
+
+// The printer.
+
+void PrintDialog::followQueues() {
+    connect(&m_directory, &QueueDirectory::changed, this, &PrintDialog::takeQueues);
+    connect(&m_directory, &QueueDirectory::failed, m_list, &QueueList::setFailure);
+    connect(&m_directory, &QueueDirectory::recovered, this, [this] { m_list->setFailure({}); });
+    connect(&m_directory, &QueueDirectory::detailsReady, this, &PrintDialog::takeDetails);
+    connect(&m_directory, &QueueDirectory::detailsFailed, this,
+            [this](const QString &, const QString &reason) {
+                m_failure = reason;
+                refreshPrinter();
+            });
+    connect(m_list, &QueueList::retryAsked, &m_directory, &QueueDirectory::ask);
+    connect(m_list, &QueueList::pickedByPerson, this, [this] { m_isPicked = true; });
+    connect(m_list, &QueueList::selectionChanged, this, &PrintDialog::showQueue);
+    m_isPicked = !m_setup.queue.isNull() || m_setup.file;
+    m_list->select(m_setup.queue);
+    showQueue();
+    m_directory.ask();
+}
+
+void PrintDialog::takeQueues(const QList<QueueInfo> &queues) {
+    m_list->setFailure({});
+    m_list->setQueues(queues);
+    if (!m_isPicked)
+        for (const QueueInfo &queue : queues)
+            if (queue.isDefault)
+                m_list->select(queue.name);
+    if (m_isPicked || !queues.isEmpty())
+        m_isPicked = true; // from here on it changes by the person's hand only
+    refreshPrinter();
+}
+
+void PrintDialog::showQueue() {
+    const QString queue = m_list->selected();
+    if (m_job && m_job->queueOrFile() == queue)
+        return;
+    leaveJob();
+    m_failure.clear();
+    m_directory.forgetDetails();
+    if (const auto found = m_jobs.find(queue); found != m_jobs.end()) {
+        showJob(*found->second);
+    } else if (queue.isNull()) {
+        QueueDetails details{m_setup.file ? std::move(*m_setup.file) : openFilePrinter()};
+        auto job = std::make_unique<QueueJob>(std::move(details), *m_setup.plugin, true);
+        showJob(*m_jobs.emplace(queue, std::move(job)).first->second);
+    } else {
+        m_directory.askDetails(queue);
+    }
+    refreshPrinter();
+}
+
+void PrintDialog::takeDetails(const std::shared_ptr<QueueDetails> &details) {
+    const QString queue = details->source.printer.id;
+    auto job = std::make_unique<QueueJob>(std::move(*details), *m_setup.plugin, false);
+    QueueJob &taken = *(m_jobs[queue] = std::move(job));
+    showJob(taken);
+    const QueueInfo *info = m_list->selectedInfo();
+    if (m_setup.store.hasLastUsed(queue))
+        m_presets->chooseLastUsed();
+    else if (info && info->isDefault && !info->instance.isNull())
+        m_presets->chooseInstance(info->instance);
+    refreshPrinter();
+}
+
+void PrintDialog::showJob(QueueJob &job) {
+    m_job = &job;
+    m_conflicts.emplace(job.ppd());
+    m_common->setSettings(&job.settings(), [this](const QString &option, const QString &choice) {
+        return m_conflicts->reasonAgainst(option, choice);
+    });
+    m_presets->setQueue(job.queue());
+    m_presets->setInstances(job.instances());
+    m_remember->setQueue(job.queue());
+    openPanel();
+    m_presets->settle();
+    views::assignMnemonics(m_common);
+    refresh();
+}
+
+void PrintDialog::leaveJob() {
+    if (!m_job)
+        return;
+    savePanel();
+    m_tabs->setCurrentIndex(kGeneralTab);
+    m_tabs->setTabVisible(kPanelTab, false);
+    m_job->stage().close();
+    m_common->setSettings(nullptr);
+    m_presets->setQueue({});
+    m_conflicts.reset();
+    m_job = nullptr;
+}
+
+void PrintDialog::openPanel() {
+    PanelStage &stage = m_job->stage();
+    const bool open = m_job->ppd() && stage.open(m_panelHome);
+    m_tabs->setTabVisible(kPanelTab, open);
+    if (!open)
+        return;
+    m_tabs->setTabText(kPanelTab, stage.session().name());
+    views::assignMnemonics(stage.window());
+    stage.callback().setObserver([this] { refreshSoon(); });
+}
+
+void PrintDialog::change(const std::function<QStringList(QueueJob &)> &work) {
+    if (!m_job)
+        return;
+    m_job->stage().close();
+    const QStringList problems = work(*m_job);
+    m_common->setSettings(&m_job->settings(), [this](const QString &option, const QString &choice) {
+        return m_conflicts->reasonAgainst(option, choice);
+    });
+    openPanel();
+    m_presets->setProblems(problems);
+    refresh();
+}
+
+// What follows from a change.
+
+void PrintDialog::takeChange(const QString &option) {
+    if (m_job->stage().isOpen())
+        if (const ppd_choice_t *choice =
+                m_job->ppd() ? ppdFindMarkedChoice(m_job->ppd(), option.toUtf8().constData())
+                             : nullptr)
+            m_job->stage().session().optionDidChange(option, QString::fromUtf8(choice->choice));
+    m_presets->noteChange();
+    refreshSoon();
+}
+
+void PrintDialog::savePanel() {
+    if (!m_job || !m_job->stage().isOpen() || ModalWindow::current())
+        return;
+    m_job->stage().session().noteUserAct(); // any view may have changed
+    m_job->stage().session().leavePage();
+}
+
+void PrintDialog::leaveTab(int next) {
+    if (std::exchange(m_tab, next) == kPanelTab) {
+        savePanel();
+        m_presets->noteChange();
+    }
+    if (next == kPanelTab && m_job && m_job->stage().isOpen())
+        m_job->stage().session().willShow();
+    refreshSoon();
+}
+
+void PrintDialog::refresh() {
+    if (!m_job || ModalWindow::current())
+        return;
+    if (m_tab == kGeneralTab)
+        m_common->refresh();
+    if (m_tab == kSummaryTab)
+        refreshSummary();
+    const QList<Conflict> standing = m_conflicts->standing();
+    m_conflictLine->show(standing.size(),
+                         standing.isEmpty() ? QString() : textOf(standing.first()));
+}
+
+void PrintDialog::refreshSummary() {
+    PanelStage &stage = m_job->stage();
+    const bool open = stage.isOpen();
+    savePanel();
+    m_summary->show(open ? stage.session().name() : QString(),
+                    open ? stage.session().summary() : QVariantMap(), sentList(m_job->toSend()));
+}
+
+void PrintDialog::refreshPrinter() {
+    const QueueInfo *info = m_list->selectedInfo();
+    const bool isRefused = info && !info->acceptsJobs;
+    QString notice;
+    if (!m_failure.isNull())
+        notice = m_failure;
+    else if (!m_job)
+        notice = tr("Getting the printer's settings…");
+    else if (isRefused)
+        notice = tr("The printer takes no jobs at the moment.");
+    else if (info && info->state == QueueState::Paused)
+        notice = tr("The printer is paused. Jobs wait until it goes on.");
+    m_notice->setText(notice);
+    m_notice->setVisible(!notice.isEmpty());
+    m_settingsPart->setEnabled(m_job);
+    m_tabs->setTabEnabled(kSummaryTab, m_job);
+    m_print->setEnabled(m_job && !isRefused);
+    m_print->setToolTip(m_print->isEnabled() ? QString() : notice);
+    m_print->setAccessibleDescription(m_print->toolTip());
+}
+
+void PrintDialog::tell(const QString &headline, const QStringList &lines) {
+    m_problems->show(headline, lines);
+}
+
+} // namespace host

@@ -1,0 +1,146 @@
+#include "run_host.h"
+#include "support/cups_daemon.h"
+#include "support/ppd_text.h"
+
+#include "host/bundle_loader.h"
+#include "host/dialog/print_dialog.h"
+#include "host/presets/preset_bar.h"
+#include "platform/views/modal_window.h"
+#include "platform/views/stepper_view.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+host::DialogSetup setupFor(const QTemporaryDir &folder) {
+    host::DialogSetup setup;
+    setup.plugin = host::loadBundle(BUNDLE_DIR);
+    setup.document = host::readDocument(samplePath("sample.ps"));
+    setup.store = host::PresetStore(folder.path());
+    return setup;
+}
+
+template <class View>
+View *find(QWidget &window, const char *name) {
+    auto *view = window.findChild<View *>(name);
+    EXPECT_TRUE(view) << name;
+    return view;
+}
+
+/// Waits for what background work brings.
+template <class Condition>
+bool wait(Condition condition) {
+    return QTest::qWaitFor(condition, 30000);
+}
+
+QPushButton *printButton(QWidget &dialog) {
+    for (auto *button : dialog.findChildren<QPushButton *>())
+        if (button->text() == "&Print")
+            return button;
+    return nullptr;
+}
+
+/// Picks a row of the list of printers, as a click does.
+bool pick(QWidget &dialog, const QString &queue) {
+    auto *list = find<QListView>(dialog, "queueList");
+    for (int row = 0; row < list->model()->rowCount(); ++row)
+        if (list->model()->index(row, 0).data().toString() == queue) {
+            list->setCurrentIndex(list->model()->index(row, 0));
+            return true;
+        }
+    return false;
+}
+
+} // namespace
+
+/// The window stands with a server that isn't there, prints nothing, and a person who looks around
+/// finds the panel, its windows and the summary.
+TEST(PrintDialog, ShowsPanelAndSummaryAndCancels) {
+    const ServerInUse server("/nonexistent/socket");
+    const QTemporaryDir folder;
+    host::DialogSetup setup = setupFor(folder);
+    setup.file = host::openPpdFile(samplePath("velmora-mvo-530.ppd"));
+    host::PrintDialog dialog(std::move(setup));
+    dialog.show();
+    auto *tabs = find<QTabWidget>(dialog, "pages");
+    ASSERT_TRUE(tabs->isTabVisible(1));
+    tabs->setCurrentIndex(1);
+    QTimer::singleShot(0, &dialog, [&] {
+        ASSERT_TRUE(ModalWindow::current());
+        dialog.reject();
+        EXPECT_TRUE(dialog.isVisible()) << "a child window of the panel stood before the dialog";
+        ModalWindow::current()->reject();
+    });
+    find<QPushButton>(dialog, "colorbalanceButtonCtrl")->click();
+    tabs->setCurrentIndex(2);
+    EXPECT_TRUE(wait([&] {
+        for (const auto *label : dialog.findChildren<QLabel *>())
+            if (label->text() == "Color Mode")
+                return true;
+        return false;
+    }));
+    EXPECT_TRUE(wait([&] { return !find<QPushButton>(dialog, "retry")->isHidden(); }));
+    EXPECT_TRUE(printButton(dialog)->isEnabled());
+    find<QDialogButtonBox>(dialog, "buttons")->button(QDialogButtonBox::Cancel)->click();
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+}
+
+/// A person shifts a density, saves a preset, looks at another printer, comes back, and prints.
+TEST(PrintDialog, KeepsChoicesOfEachPrinterAndPrintsThem) {
+    CupsDaemon cups;
+    ASSERT_TRUE(cups.start() && cups.addQueue("One", samplePath("velmora-mvo-530.ppd")) &&
+                cups.addQueue("Two", samplePath("velmora-plain.ppd")))
+        << cups.log().constData();
+    const ServerInUse server(cups.address());
+    const QTemporaryDir folder;
+    host::DialogSetup setup = setupFor(folder);
+    setup.queue = "One";
+    {
+        host::PrintDialog dialog(std::move(setup));
+        dialog.show();
+        auto *tabs = find<QTabWidget>(dialog, "pages");
+        const auto ready = [&] { return printButton(dialog)->isEnabled(); };
+        ASSERT_TRUE(wait(ready) && tabs->isTabVisible(1));
+        tabs->setCurrentIndex(1);
+        QTimer::singleShot(0, &dialog, [] {
+            ModalWindow *window = ModalWindow::current();
+            ASSERT_TRUE(window);
+            window->findChild<QAbstractButton *>("graphicWndAdjustCBCboxCtrl")->click();
+            window->findChild<StepperView *>("gWndLowDCBLarrCtrl")->stepBy(2);
+            window->findChild<QAbstractButton *>("graphicWndOKPushCtrl")->click();
+        });
+        find<QAbstractButton>(dialog, "colorbalanceButtonCtrl")->click();
+        tabs->setCurrentIndex(0);
+        auto *presets = find<host::PresetBar>(dialog, "presetBar");
+        presets->saveAs("Dark");
+
+        ASSERT_TRUE(wait([&] { return pick(dialog, "Two"); }) && wait(ready));
+        EXPECT_FALSE(tabs->isTabVisible(1));
+        ASSERT_TRUE(pick(dialog, "One") && ready() && tabs->isTabVisible(1));
+        presets->setQueue("One"); // as in a window that was opened anew
+        ASSERT_TRUE(presets->choose("Dark"));
+        QLabel *headline = find<QLabel>(dialog, "jobHeadline");
+        printButton(dialog)->click();
+        ASSERT_TRUE(wait([&] { return headline->text() == "The job One-1 was sent."; }))
+            << headline->text().toStdString();
+        EXPECT_TRUE(wait([&] { return find<QLabel>(dialog, "jobState")->text() == "Printed."; }));
+        find<QPushButton>(dialog, "jobClose")->click();
+        EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    }
+    EXPECT_EQ(host::PresetStore(folder.path()).recentQueues(), QStringList{"One"});
+    const QStringList printed = printedFeatures(readFile(cups.outputOf("One")));
+    for (const char *feature : {"*QZColorBalanceAdjustment True", "*QZColorDensityBlackLow 2",
+                                "*QZColorDensityCyanLow 0"})
+        EXPECT_TRUE(printed.contains(feature)) << feature;
+}
