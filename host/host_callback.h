@@ -24,8 +24,11 @@ public:
     PMPrintSession printSession() override { return &m_session; }
     bool willChangePPDOptionKeyValue(const QString &option, const QString &choice) override;
 
-    /// Called after each change of a mark that a panel asks for.
-    void setObserver(std::function<void()> observer) { m_observer = std::move(observer); }
+    /// Called after each change of a mark that a panel asks for, with the option; not where the
+    /// choice was marked before, as with most that a panel saves.
+    void setObserver(std::function<void(const QString &option)> observer) {
+        m_observer = std::move(observer);
+    }
 
     const PrintSettings &settings() const { return m_settings; }
     /// What was asked for since the last call of this function, granted or not, in order.
@@ -36,7 +39,7 @@ private:
     PrintSettings m_settings;
     PrintSession m_session;
     QList<Call> m_calls;
-    std::function<void()> m_observer;
+    std::function<void(const QString &)> m_observer;
 };
 
 } // namespace host

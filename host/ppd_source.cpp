@@ -3,6 +3,7 @@
 #include "host/cups_server.h"
 #include "host/custom_value.h"
 #include "host/host_error.h"
+#include "host/settings/ppd_texts.h"
 #include "platform/ppd_file.h"
 #include "platform/ppd_marks.h"
 
@@ -47,25 +48,18 @@ void markChoices(const PpdSource &source, const QList<QPair<QString, QString>> &
 
 QList<QPair<QString, QString>> markedChoices(ppd_file_t *ppd) {
     QList<QPair<QString, QString>> rows;
-    const auto walk = [&](const auto &self, const ppd_group_t &group) -> void {
-        for (int i = 0; i < group.num_options; ++i) {
-            const ppd_option_t &option = group.options[i];
-            for (int j = 0; j < option.num_choices; ++j) {
-                if (!option.choices[j].marked)
-                    continue;
-                QString choice = QString::fromUtf8(option.choices[j].choice);
-                if (choice.compare(QLatin1String("Custom"), Qt::CaseInsensitive) == 0)
-                    if (QString value = customValueOf(ppd, option, Secrets::With).text;
-                        !value.isNull())
-                        choice = std::move(value);
-                rows.append({QString::fromUtf8(option.keyword), choice});
-            }
+    eachPpdOption(ppd, [&](const ppd_group_t &, const ppd_option_t &option) {
+        for (int i = 0; i < option.num_choices; ++i) {
+            const ppd_choice_t &choice = option.choices[i];
+            if (!choice.marked)
+                continue;
+            QString value;
+            if (isCustom(choice))
+                value = customValueOf(ppd, option, Secrets::With).text;
+            rows.append({QString::fromUtf8(option.keyword),
+                         value.isNull() ? QString::fromUtf8(choice.choice) : value});
         }
-        for (int i = 0; i < group.num_subgroups; ++i)
-            self(self, group.subgroups[i]);
-    };
-    for (int i = 0; ppd && i < ppd->num_groups; ++i)
-        walk(walk, ppd->groups[i]);
+    });
     return rows;
 }
 

@@ -10,6 +10,7 @@
 #include "host/panel_stage.h"
 #include "host/presets/preset_commands.h"
 #include "host/ps_job.h"
+#include "host/settings/job_options.h"
 
 #include <QFileInfo>
 #include <QWidget>
@@ -64,12 +65,10 @@ int sendToCups(PanelStage &stage, const Document &document) {
     job.title = QFileInfo(document.path).fileName();
     job.format = document.type == Document::Type::Pdf ? CUPS_FORMAT_PDF : CUPS_FORMAT_POSTSCRIPT;
     job.document = document.content;
-    job.options = markedChoices(stage.source().ppd.get());
-    const auto &entries = stage.callback().settings().entries();
-    for (auto entry = entries.begin(); entry != entries.end(); ++entry)
-        job.options.append({entry.key(), entry->value});
+    OptionList others;
     for (auto option = stage.jobOptions().begin(); option != stage.jobOptions().end(); ++option)
-        job.options.append({option.key(), option.value()});
+        others.append({option.key(), option.value()});
+    job.options = jobOptionsToSend(stage.source().ppd.get(), &stage.callback().settings(), others);
     return CupsServer().submit(job);
 }
 

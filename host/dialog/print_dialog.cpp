@@ -9,6 +9,7 @@
 #include "host/presets/preset_bar.h"
 #include "host/presets/problem_area.h"
 #include "host/presets/remember_box.h"
+#include "host/preview/preview_view.h"
 #include "host/queues/queue_list.h"
 #include "host/settings/common_settings.h"
 #include "platform/views/alert.h"
@@ -63,12 +64,12 @@ PrintDialog::PrintDialog(DialogSetup setup) : m_setup(std::move(setup)) {
     setWindowTitle(tr("Print"));
     m_form = new QWidget;
     auto *columns = new QHBoxLayout;
-    columns->addWidget(makeDocumentSide(), 2);
-    columns->addWidget(makeTabs(), 3);
+    columns->addWidget(makeDocumentSide());
+    columns->addWidget(makeTabs());
     m_conflictLine = new ConflictLine;
     m_problems = new ProblemArea;
     auto *layout = new QVBoxLayout(m_form);
-    layout->addLayout(columns, 1);
+    layout->addLayout(columns);
     layout->addWidget(m_conflictLine);
     layout->addWidget(m_problems);
     layout->addWidget(makeButtons());
@@ -118,7 +119,10 @@ QWidget *PrintDialog::makeDocumentSide() {
     auto *layout = new QVBoxLayout(side);
     layout->setContentsMargins({});
     layout->addLayout(row);
-    layout->addStretch(1);
+    m_preview = new PreviewView;
+    layout->addWidget(m_preview, 1);
+    connect(m_preview, &PreviewView::pageCountKnown, this,
+            [this](int count) { m_common->setPageCount(count); });
     return side;
 }
 
@@ -248,9 +252,12 @@ void PrintDialog::showQueue() {
 
 void PrintDialog::takeDetails(const std::shared_ptr<QueueDetails> &details) {
     const QString queue = details->source.printer.id;
+    m_failure.clear();
     auto job = std::make_unique<QueueJob>(std::move(*details), *m_setup.plugin, false);
     QueueJob &taken = *(m_jobs[queue] = std::move(job));
+    const QStringList problems = taken.useDefaults();
     showJob(taken);
+    m_presets->setProblems(problems);
     const QueueInfo *info = m_list->selectedInfo();
     if (m_setup.store.hasLastUsed(queue))
         m_presets->chooseLastUsed();
@@ -261,6 +268,7 @@ void PrintDialog::takeDetails(const std::shared_ptr<QueueDetails> &details) {
 
 void PrintDialog::showJob(QueueJob &job) {
     m_job = &job;
+    m_chosenLast.clear();
     m_conflicts.emplace(job.ppd());
     m_common->setSettings(&job.settings(), [this](const QString &option, const QString &choice) {
         return m_conflicts->reasonAgainst(option, choice);
@@ -295,7 +303,10 @@ void PrintDialog::openPanel() {
         return;
     m_tabs->setTabText(kPanelTab, stage.session().name());
     views::assignMnemonics(stage.window());
-    stage.callback().setObserver([this] { refreshSoon(); });
+    stage.callback().setObserver([this](const QString &option) {
+        m_chosenLast = option;
+        refreshSoon();
+    });
 }
 
 void PrintDialog::change(const std::function<QStringList(QueueJob &)> &work) {
@@ -314,6 +325,7 @@ void PrintDialog::change(const std::function<QStringList(QueueJob &)> &work) {
 // What follows from a change.
 
 void PrintDialog::takeChange(const QString &option) {
+    m_chosenLast = option;
     if (m_job->stage().isOpen())
         if (const ppd_choice_t *choice =
                 m_job->ppd() ? ppdFindMarkedChoice(m_job->ppd(), option.toUtf8().constData())
@@ -347,6 +359,7 @@ void PrintDialog::refresh() {
         m_common->refresh();
     if (m_tab == kSummaryTab)
         refreshSummary();
+    m_preview->setSheet(m_job->sheet());
     const QList<Conflict> standing = m_conflicts->standing();
     m_conflictLine->show(standing.size(),
                          standing.isEmpty() ? QString() : textOf(standing.first()));
@@ -362,21 +375,19 @@ void PrintDialog::refreshSummary() {
 
 void PrintDialog::refreshPrinter() {
     const QueueInfo *info = m_list->selectedInfo();
-    const bool isRefused = info && !info->acceptsJobs;
+    const QueueProblem problem = info ? queueProblem(*info) : QueueProblem{};
     QString notice;
     if (!m_failure.isNull())
         notice = m_failure;
     else if (!m_job)
         notice = tr("Getting the printer's settings…");
-    else if (isRefused)
-        notice = tr("The printer takes no jobs at the moment.");
-    else if (info && info->state == QueueState::Paused)
-        notice = tr("The printer is paused. Jobs wait until it goes on.");
+    else
+        notice = problem.sentence;
     m_notice->setText(notice);
     m_notice->setVisible(!notice.isEmpty());
     m_settingsPart->setEnabled(m_job);
     m_tabs->setTabEnabled(kSummaryTab, m_job);
-    m_print->setEnabled(m_job && !isRefused);
+    m_print->setEnabled(m_job && !problem.preventsPrinting);
     m_print->setToolTip(m_print->isEnabled() ? QString() : notice);
     m_print->setAccessibleDescription(m_print->toolTip());
 }

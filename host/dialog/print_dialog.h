@@ -101,6 +101,7 @@ private:
     std::map<QString, std::unique_ptr<QueueJob>> m_jobs; ///< by queue; null for a file
     QueueJob *m_job = nullptr;                           ///< whose settings are shown
     std::optional<ConflictIndex> m_conflicts;            ///< of m_job
+    QString m_chosenLast;    ///< keyword of the option that the person changed last
     QString m_failure;       ///< why the chosen printer's settings aren't shown
     bool m_isPicked = false; ///< the person, or the setup, has chosen a printer
     int m_tab = 0;           ///< that stands

@@ -6,6 +6,7 @@
 #include "host/presets/preset_bar.h"
 #include "host/presets/problem_area.h"
 #include "host/presets/remember_box.h"
+#include "host/preview/preview_view.h"
 #include "host/ps_job.h"
 #include "host/settings/common_settings.h"
 #include "host/settings/secrets.h"
@@ -25,6 +26,8 @@ void PrintDialog::showDocument() {
     const bool given = m_setup.document.has_value();
     m_documentName->setText(given ? QFileInfo(m_setup.document->path).fileName()
                                   : tr("No document"));
+    if (given)
+        m_preview->setDocument(*m_setup.document);
 }
 
 bool PrintDialog::openDocument(const QString &path) {
@@ -48,7 +51,7 @@ void PrintDialog::chooseDocument() {
 
 bool PrintDialog::settleConflicts(Purpose purpose) {
     savePanel();
-    const Decision decision = askAboutConflicts(this, *m_conflicts, purpose);
+    const Decision decision = askAboutConflicts(this, *m_conflicts, purpose, m_chosenLast);
     if (!decision.goesOn)
         return false;
     PanelStage &stage = m_job->stage();

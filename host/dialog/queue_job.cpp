@@ -1,6 +1,7 @@
 #include "host/dialog/queue_job.h"
 
 #include "host/presets/applied_preset.h"
+#include "host/settings/cups_forms.h"
 #include "host/settings/ppd_texts.h"
 
 namespace host {
@@ -50,7 +51,7 @@ QStringList QueueJob::useDefaults(const QString &instance) {
     const OptionList own = m_userOptions.of(queue(), instance);
     m_settings.emplace(ppd(), m_serverDefaults, own);
     m_settings->setToFile(m_toFile);
-    QStringList problems;
+    QStringList problems = m_userOptions.problems;
     m_settings->takeOptions(m_serverDefaults); // what CUPS adds by itself needn't be sent
     m_others = m_settings->takeOptions(own, &problems);
     return problems;
@@ -75,6 +76,26 @@ Preset QueueJob::preset() const {
 
 ToSend QueueJob::toSend() const {
     return {ppd(), &m_stage.callback().settings(), &*m_settings, m_others, m_serverDefaults};
+}
+
+SheetOptions QueueJob::sheet() const {
+    SheetOptions sheet;
+    if (const ppd_size_t *size = ppd() ? ppdPageSize(ppd(), nullptr) : nullptr) {
+        sheet.paper = QSizeF(size->width, size->length);
+        // A PPD measures from the lower left corner.
+        sheet.imageable = QRectF(QPointF(size->left, size->length - size->top),
+                                 QPointF(size->right, size->length - size->bottom));
+    }
+    if (const ppd_option_t *duplex = m_settings->ppdOption(Setting::Sides))
+        if (const ppd_choice_t *marked = markedChoice(*duplex))
+            sheet.sides = sidesOf(*marked);
+    sheet.grey = printsGrey();
+    if (m_toFile)
+        return sheet; // which has the pages as they are
+    sheet.orientation = m_settings->value(Setting::Orientation).toInt();
+    sheet.numberUp = m_settings->value(Setting::NumberUp).toInt();
+    sheet.pageRanges = m_settings->value(Setting::Pages);
+    return sheet;
 }
 
 bool QueueJob::printsGrey() const {

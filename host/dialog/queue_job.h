@@ -2,6 +2,7 @@
 
 #include "host/panel_stage.h"
 #include "host/presets/preset.h"
+#include "host/preview/sheet_layout.h"
 #include "host/queues/queue_directory.h"
 #include "host/settings/job_settings.h"
 #include "host/settings/sent_list.h"
@@ -41,10 +42,13 @@ public:
     Preset preset() const;
 
     ToSend toSend() const;
+    /// How the document's pages will lie on the sheets.
+    SheetOptions sheet() const;
+
+private:
     /// Whether the marks make a job without colour.
     bool printsGrey() const;
 
-private:
     PanelStage m_stage;
     OptionList m_serverDefaults;
     UserOptions m_userOptions;

@@ -74,7 +74,7 @@ QList<PageWish> SheetCanvas::wishes() const {
 }
 
 QSize SheetCanvas::sizeHint() const {
-    return {fontMetrics().averageCharWidth() * 44, fontMetrics().height() * 26};
+    return {fontMetrics().averageCharWidth() * 52, fontMetrics().height() * 30};
 }
 
 QSize SheetCanvas::minimumSizeHint() const {

@@ -37,6 +37,7 @@ void setTitle(TextView *label, const QString &title) {
 CommonSettings::CommonSettings(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("commonSettings"));
     auto *layout = new QFormLayout(this);
+    layout->setContentsMargins({});
     addCopies(layout);
     addPages(layout);
     addList(layout, Setting::Orientation, QStringLiteral("orientation"));

@@ -51,6 +51,14 @@ bool markSides(ppd_file_t *ppd, const ppd_option_t &duplex, const QString &sides
     return false;
 }
 
+QString sidesOf(const ppd_choice_t &choice) {
+    for (const auto &row : kSides)
+        for (const char *word : row.choices)
+            if (qstricmp(choice.choice, word) == 0)
+                return QLatin1String(row.sides);
+    return {};
+}
+
 bool markMedia(ppd_file_t *ppd, const QString &media) {
     bool all = true;
     for (const QString &part : media.split(u',', Qt::SkipEmptyParts)) {
