@@ -3,7 +3,7 @@ PRESET ?= debug
 BUILD := build/$(PRESET)
 JOBS := $(shell nproc)
 
-.PHONY: setup build run test bench format lint clean
+.PHONY: setup build run test pictures bench format lint clean
 
 setup:
 	@scripts/install-packages
@@ -18,6 +18,14 @@ run: build
 
 test: build
 	QT_QPA_PLATFORM=offscreen ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+# Pictures of the dialog for docs/, in the offscreen style that tests have.
+pictures: build
+	cmake --build $(BUILD) -j $(JOBS) --target pictures
+	QT_QPA_PLATFORM=offscreen $(BUILD)/bin/pictures docs/pictures
+	for scale in 1.5 2; do \
+	  QT_SCALE_FACTOR=$$scale QT_QPA_PLATFORM=offscreen $(BUILD)/bin/pictures docs/pictures dialog-$${scale}x; \
+	done
 
 bench: setup
 	@mkdir -p build

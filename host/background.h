@@ -13,6 +13,8 @@
 
 namespace host {
 
+constexpr int kMostInBackground = 12;
+
 /// Runs work on another thread, and hands its result back on the thread that asked.
 ///
 /// The work may throw HostError and must not touch widgets or the context. An object that is gone
@@ -27,9 +29,11 @@ void inBackground(QObject *context, Work work, Done done,
                   std::function<void(const QString &)> failed) {
     QPointer<QObject> asker(context);
     QObject *const home = QCoreApplication::instance(); // outlives all work, unlike its pointer
-    QThreadPool::globalInstance()->start([asker, home, work = std::move(work),
-                                          done = std::move(done),
-                                          failed = std::move(failed)]() mutable {
+    // Work that waits for a server mustn't hold up work that doesn't.
+    QThreadPool *const threads = QThreadPool::globalInstance();
+    threads->setMaxThreadCount(qMax(threads->maxThreadCount(), kMostInBackground));
+    threads->start([asker, home, work = std::move(work), done = std::move(done),
+                    failed = std::move(failed)]() mutable {
         // A pointer to the asker is only looked at on its own thread.
         const auto answer = [&asker, home](auto call) {
             QMetaObject::invokeMethod(

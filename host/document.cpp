@@ -2,11 +2,13 @@
 
 #include "host/files.h"
 #include "host/host_error.h"
+#include "host/words.h"
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QtEndian>
 
 namespace host {
@@ -60,7 +62,12 @@ QByteArray run(const Converter &converter, const Document &document, const QStri
                const QByteArray &input, const char *format, const QByteArray &signature,
                const std::atomic<bool> *givenUp) {
     const QString program = QString::fromLatin1(converter.program);
+    const QTemporaryDir folder; // what a converter that is killed leaves goes with it
     QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (folder.isValid())
+        environment.insert(QStringLiteral("TMPDIR"), folder.path());
+    process.setProcessEnvironment(environment);
     if (input.isNull())
         process.setStandardInputFile(QProcess::nullDevice());
     process.start(program, arguments);
@@ -76,13 +83,13 @@ QByteArray run(const Converter &converter, const Document &document, const QStri
     while (!process.waitForFinished(kLookMs) && process.error() == QProcess::Timedout && isWanted())
         ;
     if (process.state() != QProcess::NotRunning || process.error() == QProcess::FailedToStart) {
-        const QString error = process.error() != QProcess::Timedout ? process.errorString()
-                              : deadline.hasExpired()
-                                  ? QStringLiteral("%1 didn't finish within %2 seconds")
-                                        .arg(program)
-                                        .arg(kConversionMs / 1000)
-                              : givenUp && *givenUp ? QStringLiteral("given up")
-                                                    : program + QStringLiteral(" wrote too much");
+        const QString error =
+            process.error() != QProcess::Timedout ? process.errorString()
+            : deadline.hasExpired() ? HostWords::tr("%1 didn't finish within %2 seconds")
+                                          .arg(program)
+                                          .arg(kConversionMs / 1000)
+            : givenUp && *givenUp ? HostWords::tr("given up")
+                                  : HostWords::tr("%1 wrote too much").arg(program);
         process.kill();
         process.waitForFinished(-1);
         throw HostError(document.path, error);
@@ -94,7 +101,7 @@ QByteArray run(const Converter &converter, const Document &document, const QStri
         !text.startsWith(signature))
         throw HostError(
             document.path,
-            QStringLiteral("%1 can't convert it to %2%3")
+            HostWords::tr("%1 can't convert it to %2%3")
                 .arg(program, QLatin1String(format),
                      complaint.isEmpty() ? complaint : QStringLiteral(": ") + complaint));
     return text;
@@ -139,12 +146,12 @@ QByteArray barePostScript(const QByteArray &content) {
 Document readDocument(const QString &path) {
     const QByteArray content = readRegularFile(path, kGreatestDocument);
     if (content.isEmpty())
-        throw HostError(path, QStringLiteral("is empty"));
+        throw HostError(path, HostWords::tr("is empty"));
     if (QByteArray bare = barePostScript(content); !bare.isNull())
         return {Document::Type::PostScript, path, bare};
     if (content.left(kPdfWindow).contains("%PDF-"))
         return {Document::Type::Pdf, path, content};
-    throw HostError(path, QStringLiteral("is neither PostScript nor PDF"));
+    throw HostError(path, HostWords::tr("is neither PostScript nor PDF"));
 }
 
 QByteArray toPostScript(const Document &document) {
@@ -158,7 +165,7 @@ QByteArray toPostScript(const Document &document) {
                            converter.output,
                        {}, "PostScript", "%!", nullptr);
     throw HostError(document.path,
-                    QStringLiteral("a PDF needs pdftops or gs, and neither is installed"));
+                    HostWords::tr("a PDF needs pdftops or gs, and neither is installed"));
 }
 
 QByteArray toPdf(const Document &document, QSizeF page, const std::atomic<bool> *givenUp) {
@@ -173,7 +180,7 @@ QByteArray toPdf(const Document &document, QSizeF page, const std::atomic<bool> 
         return run(converter, document, arguments + QStringList{QStringLiteral("-")},
                    document.content, "PDF", "%PDF-", givenUp);
     }
-    throw HostError(document.path, QStringLiteral("PostScript needs gs, which isn't installed"));
+    throw HostError(document.path, HostWords::tr("PostScript needs gs, which isn't installed"));
 }
 
 } // namespace host

@@ -1,6 +1,7 @@
 #include "host/files.h"
 
 #include "host/host_error.h"
+#include "host/words.h"
 #include "platform/file_content.h"
 
 #include <QBuffer>
@@ -30,7 +31,7 @@ void Outputs::add(const QString &path, const QByteArray &content) {
     auto file = std::make_unique<QSaveFile>(path);
     if (!file->open(QIODevice::WriteOnly) || file->write(content) != content.size() ||
         !file->flush())
-        throw HostError(path, QStringLiteral("can't be written: ") + reasonOf(*file));
+        throw HostError(path, HostWords::tr("can't be written: %1").arg(reasonOf(*file)));
     m_files.push_back(std::move(file));
 }
 
@@ -38,7 +39,7 @@ void Outputs::commit() {
     for (const auto &file : m_files)
         if (!file->commit())
             throw HostError(file->fileName(),
-                            QStringLiteral("can't be written: ") + file->errorString());
+                            HostWords::tr("can't be written: %1").arg(file->errorString()));
     m_files.clear();
 }
 

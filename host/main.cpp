@@ -3,16 +3,16 @@
 #include "host/drive.h"
 #include "host/host_error.h"
 #include "host/inspect.h"
+#include "host/language.h"
 #include "host/presets/preset_commands.h"
 #include "host/print.h"
 #include "platform/bundle.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QTranslator>
 
 #include <csignal>
 #include <cstdio>
+#include <optional>
 
 #include <unistd.h>
 
@@ -58,26 +58,13 @@ void choosePlatform(host::Command command) {
     qputenv("QT_QPA_PLATFORM", platforms);
 }
 
-/// Qt's own words, such as those of its standard buttons, in the language of the panel.
-void translateQt(QTranslator &translator) {
-    for (const QString &language : Bundle::languages()) {
-        if (language == u"en")
-            return;
-        if (translator.load(QStringLiteral("qtbase_") + language,
-                            QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-            QCoreApplication::installTranslator(&translator);
-            return;
-        }
-    }
-}
-
 void run(const host::CommandLine &line) {
     using host::Command;
     if (!line.language.isNull())
         Bundle::setLanguages({line.language});
-    QTranslator qtWords;
+    std::optional<host::Language> language;
     if (line.command != Command::Help)
-        translateQt(qtWords);
+        language.emplace();
     switch (line.command) {
     case Command::Help:
         std::fputs(host::usage().toLocal8Bit().constData(), stdout);

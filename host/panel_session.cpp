@@ -16,9 +16,16 @@ PanelSession::~PanelSession() {
     close();
 }
 
+QString PanelSession::findName() {
+    if (m_panel) {
+        m_kind = m_panel->panelKind();
+        m_name = m_panel->panelName();
+    }
+    return m_name;
+}
+
 QWidget *PanelSession::load() {
-    m_kind = m_panel->panelKind();
-    m_name = m_panel->panelName();
+    findName();
     m_keys = m_panel->supportedPPDOptionKeys();
     return m_panel->panelView();
 }

@@ -32,6 +32,8 @@ public:
     /// Whether there was a panel, and is no more.
     bool hasEnded() const { return m_hadPanel && !m_panel; }
 
+    /// Asks the panel what it is called, which needs no view of it. @return null without a panel
+    QString findName();
     /// The first half of the road of a shown panel, panelKind to panelView.
     /// @return the view, owned by the panel until it gets a parent; null without a layout
     QWidget *load();

@@ -34,6 +34,8 @@ class Option:
     order: tuple  # position and section of *OrderDependency
     kind: str = "PickOne"
     code: dict = field(default_factory=dict)  # of a choice, where it isn't just a trace
+    typed: list = field(default_factory=list)  # parameters of a custom choice, as the file has them
+    typed_code: str = ""
 
 
 @dataclass(frozen=True)
@@ -69,6 +71,7 @@ class Queue:
     constraints: list = field(default_factory=list)  # (remark, [first half, second half] ...)
     brand: str = "Velmora"
     language: Language = ENGLISH
+    office: bool = False  # a choice of paper types, pages of any size, PIN and account
 
 
 # ---- Options that every queue has ---------------------------------------------------------------
@@ -91,6 +94,27 @@ GENERAL = [
             "None": "<</Duplex false>>setpagedevice",
             "DuplexNoTumble": "<</Duplex true/Tumble false>>setpagedevice",
             "DuplexTumble": "<</Duplex true/Tumble true>>setpagedevice"}),
+]
+
+# ---- Options for what people type ---------------------------------------------------------------
+
+LONGEST = 1296  # of a page, in points
+OFFICE_GENERAL = [
+    replace(GENERAL[0], typed_code="pop pop pop <</PageSize[5 -2 roll]/ImagingBBox null>>setpagedevice",
+            typed=["Width: 1 points 72 936", f"Height: 2 points 72 {LONGEST}",
+                   "WidthOffset: 3 points 0 0", "HeightOffset: 4 points 0 0",
+                   "Orientation: 5 int 0 0"]),
+    *GENERAL[1:],
+    Option("MediaType", "Paper Type", "Plain", [
+        ("Plain", "Plain Paper"), ("Thick", "Thick Paper"), ("Transparency", "Transparency")],
+        (13, "AnySetup")),
+]
+OFFICE_JOB = [
+    Option("VLJobPIN", "Confidential Printing", "Off", [("Off", "Off")], (14, "AnySetup"),
+           typed=["PIN/PIN: 1 passcode 4 8"], typed_code="userdict /VLJobPIN 3 -1 roll put"),
+    Option("VLAccount", "Account", "None", [("None", "None")], (15, "AnySetup"),
+           typed=["Code/Department Code: 1 string 1 20"],
+           typed_code="userdict /VLAccount 3 -1 roll put"),
 ]
 
 # ---- Options of the panel -----------------------------------------------------------------------
@@ -386,11 +410,18 @@ SV500 = Queue(
      INVALIDATE_PROFILE],
     brand="Sorvani")
 
+TRANSPARENCY_DUPLEX = both_ways("A transparency has one side.", "*MediaType Transparency", "*Duplex")
+
+MVO_540 = replace(
+    MVO_530, file="velmora-mvo-540.ppd", model="MVO-540", pc_file="VLMVO540.PPD",
+    about="The MVO-530 with paper types, pages of any size, a PIN and an account.",
+    constraints=[TRANSPARENCY_DUPLEX, *MVO_530.constraints], office=True)
+
 PLAIN = Queue(
     "velmora-plain.ppd", "Plain", "VLPLAIN.PPD", "No image options, so no panel.", [], [], [],
     [MANUAL_DUPLEX])
 
-KEPT = [MVO_110, MVO_220, MVO_420, MVO_530, MVO_530_DE, MVO_530_JA, SV500, PLAIN]
+KEPT = [MVO_110, MVO_220, MVO_420, MVO_530, MVO_530_DE, MVO_530_JA, MVO_540, SV500, PLAIN]
 
 
 def built(folder):
@@ -468,6 +499,10 @@ def ui(option):
         text = option.code.get(keyword, f"userdict /{option.keyword} ({keyword}) put")
         yield f'*{option.keyword} {keyword}/{label}: "{text}"'
     yield f"*CloseUI: *{option.keyword}"
+    if option.typed:
+        yield f'*Custom{option.keyword} True: "{option.typed_code}"'
+        for parameter in option.typed:
+            yield f"*ParamCustom{option.keyword} {parameter}"
 
 
 def dimensions(language):
@@ -495,8 +530,13 @@ def text(queue):
     language = queue.language
     yield from head(queue)
     yield from constraints(queue)
-    yield from group(language, "General", "General", GENERAL)
+    yield from group(language, "General", "General", OFFICE_GENERAL if queue.office else GENERAL)
     yield from dimensions(language)
+    if queue.office:
+        yield "*VariablePaperSize: True"
+        yield f'*MaxMediaWidth: "936"\n*MaxMediaHeight: "{LONGEST}"'
+        yield f'*HWMargins: {" ".join([str(MARGIN)] * 4)}'
+        yield from group(language, "VLJob", "Job", OFFICE_JOB)
     if queue.image:
         yield from group(language, "QZImage", "Image", queue.image)
         yield from group(language, "QZBalance", "Color Balance", queue.balance)

@@ -30,10 +30,13 @@ JobPage::JobPage(QWidget *parent)
     font.setBold(true);
     m_headline->setFont(font);
     m_headline->setWordWrap(true);
+    m_headline->setAlignment(Qt::AlignHCenter);
     m_headline->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_state->setObjectName(QStringLiteral("jobState"));
-    m_state->setWordWrap(true);
-    m_remark->setWordWrap(true);
+    for (QLabel *label : {m_state, m_remark}) {
+        label->setWordWrap(true);
+        label->setAlignment(Qt::AlignHCenter);
+    }
     m_bar->setObjectName(QStringLiteral("jobProgress"));
     m_bar->setAccessibleName(tr("Progress"));
     m_cancel->setObjectName(QStringLiteral("jobCancel"));
@@ -44,13 +47,16 @@ JobPage::JobPage(QWidget *parent)
     buttons->addStretch();
     buttons->addWidget(m_cancel);
     buttons->addWidget(m_close);
+    auto *words = new QWidget; // in the middle of a window that was made for more
+    words->setFixedWidth(fontMetrics().averageCharWidth() * 56);
+    auto *column = new QVBoxLayout(words);
+    for (QWidget *view : {static_cast<QWidget *>(m_headline), static_cast<QWidget *>(m_bar),
+                          static_cast<QWidget *>(m_state), static_cast<QWidget *>(m_remark)})
+        column->addWidget(view);
     auto *layout = new QVBoxLayout(this);
-    layout->addStretch(1);
-    layout->addWidget(m_headline);
-    layout->addWidget(m_bar);
-    layout->addWidget(m_state);
-    layout->addWidget(m_remark);
     layout->addStretch(2);
+    layout->addWidget(words, 0, Qt::AlignHCenter);
+    layout->addStretch(3);
     layout->addLayout(buttons);
     connect(m_close, &QPushButton::clicked, this, &JobPage::closed);
     connect(m_cancel, &QPushButton::clicked, this, [this] {

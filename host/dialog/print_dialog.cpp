@@ -12,6 +12,7 @@
 #include "host/preview/preview_view.h"
 #include "host/queues/queue_list.h"
 #include "host/settings/common_settings.h"
+#include "host/settings/typed_options.h"
 #include "platform/views/alert.h"
 #include "platform/views/form_loader.h"
 #include "platform/views/modal_window.h"
@@ -29,6 +30,9 @@
 
 namespace host {
 namespace {
+
+/// Queues that are told to have a panel before they are chosen; their PPDs are read for it.
+constexpr qsizetype kMostPpds = 20;
 
 enum Tab { kGeneralTab, kPanelTab, kSummaryTab };
 
@@ -153,6 +157,7 @@ QWidget *PrintDialog::makeGeneralPage() {
     });
     m_remember = new RememberBox(m_setup.store);
     m_common = new CommonSettings;
+    m_typed = new TypedOptions(m_common->form(), this);
     m_settingsPart = new QWidget;
     auto *part = new QVBoxLayout(m_settingsPart);
     part->setContentsMargins({});
@@ -166,6 +171,7 @@ QWidget *PrintDialog::makeGeneralPage() {
     layout->addWidget(m_settingsPart);
 
     connect(m_common, &CommonSettings::changed, this, &PrintDialog::takeChange);
+    connect(m_typed, &TypedOptions::changed, this, &PrintDialog::takeChange);
     connect(m_presets, &PresetBar::chosen, this, [this](const Preset *preset) {
         change([preset](QueueJob &job) { return preset ? job.use(*preset) : job.useDefaults(); });
     });
@@ -205,6 +211,10 @@ void PrintDialog::followQueues() {
     connect(&m_directory, &QueueDirectory::failed, m_list, &QueueList::setFailure);
     connect(&m_directory, &QueueDirectory::recovered, this, [this] { m_list->setFailure({}); });
     connect(&m_directory, &QueueDirectory::detailsReady, this, &PrintDialog::takeDetails);
+    connect(&m_directory, &QueueDirectory::ppdRead, this, [this](const PpdSource &source) {
+        const auto callback = std::make_shared<HostCallback>(source.ppd.get(), source.printer);
+        m_list->setPanel(source.printer.id, PanelSession(*m_setup.plugin, callback).findName());
+    });
     connect(&m_directory, &QueueDirectory::detailsFailed, this,
             [this](const QString &, const QString &reason) {
                 m_failure = reason;
@@ -229,6 +239,10 @@ void PrintDialog::takeQueues(const QList<QueueInfo> &queues) {
     if (m_isPicked || !queues.isEmpty())
         m_isPicked = true; // from here on it changes by the person's hand only
     refreshPrinter();
+    QStringList names;
+    for (const QueueInfo &queue : queues.first(std::min<qsizetype>(queues.size(), kMostPpds)))
+        names.append(queue.name);
+    m_directory.askPpds(names);
 }
 
 void PrintDialog::showQueue() {
@@ -270,15 +284,12 @@ void PrintDialog::showJob(QueueJob &job) {
     m_job = &job;
     m_chosenLast.clear();
     m_conflicts.emplace(job.ppd());
-    m_common->setSettings(&job.settings(), [this](const QString &option, const QString &choice) {
-        return m_conflicts->reasonAgainst(option, choice);
-    });
     m_presets->setQueue(job.queue());
     m_presets->setInstances(job.instances());
     m_remember->setQueue(job.queue());
     openPanel();
+    showSettings();
     m_presets->settle();
-    views::assignMnemonics(m_common);
     refresh();
 }
 
@@ -290,6 +301,7 @@ void PrintDialog::leaveJob() {
     m_tabs->setTabVisible(kPanelTab, false);
     m_job->stage().close();
     m_common->setSettings(nullptr);
+    m_typed->setOptions(nullptr);
     m_presets->setQueue({});
     m_conflicts.reset();
     m_job = nullptr;
@@ -302,6 +314,8 @@ void PrintDialog::openPanel() {
     if (!open)
         return;
     m_tabs->setTabText(kPanelTab, stage.session().name());
+    if (!m_job->isToFile())
+        m_list->setPanel(m_job->queue(), stage.session().name());
     views::assignMnemonics(stage.window());
     stage.callback().setObserver([this](const QString &option) {
         m_chosenLast = option;
@@ -309,15 +323,26 @@ void PrintDialog::openPanel() {
     });
 }
 
+void PrintDialog::showSettings() {
+    const ConflictReason reason = [this](const QString &option, const QString &choice) {
+        return m_conflicts->reasonAgainst(option, choice);
+    };
+    m_common->setSettings(&m_job->settings(), reason);
+    QStringList elsewhere =
+        m_job->stage().isOpen() ? m_job->stage().session().keys() : QStringList();
+    for (const Setting setting : JobSettings::all())
+        elsewhere.append(m_job->settings().key(setting));
+    m_typed->setOptions(m_job->ppd(), elsewhere, reason);
+    views::assignMnemonics(m_settingsPart);
+}
+
 void PrintDialog::change(const std::function<QStringList(QueueJob &)> &work) {
     if (!m_job)
         return;
     m_job->stage().close();
     const QStringList problems = work(*m_job);
-    m_common->setSettings(&m_job->settings(), [this](const QString &option, const QString &choice) {
-        return m_conflicts->reasonAgainst(option, choice);
-    });
     openPanel();
+    showSettings();
     m_presets->setProblems(problems);
     refresh();
 }
@@ -356,13 +381,18 @@ void PrintDialog::refresh() {
     if (!m_job || ModalWindow::current())
         return;
     if (m_tab == kGeneralTab)
-        m_common->refresh();
+        refreshSettings();
     if (m_tab == kSummaryTab)
         refreshSummary();
     m_preview->setSheet(m_job->sheet());
     const QList<Conflict> standing = m_conflicts->standing();
     m_conflictLine->show(standing.size(),
                          standing.isEmpty() ? QString() : textOf(standing.first()));
+}
+
+void PrintDialog::refreshSettings() {
+    m_common->refresh();
+    m_typed->refresh();
 }
 
 void PrintDialog::refreshSummary() {

@@ -32,6 +32,7 @@ class QueueJob;
 class QueueList;
 class RememberBox;
 class SummaryPage;
+class TypedOptions;
 struct CommandLine;
 
 /// What a dialog begins with.
@@ -72,6 +73,7 @@ private:
     void showJob(QueueJob &job);
     void leaveJob();
     void openPanel();
+    void showSettings();
     /// Lets work that needs the panel closed change the job's settings as a whole.
     void change(const std::function<QStringList(QueueJob &)> &work);
 
@@ -79,6 +81,7 @@ private:
     void takeChange(const QString &option);
     void refreshSoon() { m_refresh.start(); }
     void refresh();
+    void refreshSettings();
     void refreshSummary();
     void refreshPrinter();
     void leaveTab(int next);
@@ -119,6 +122,7 @@ private:
     PresetBar *m_presets;
     RememberBox *m_remember;
     CommonSettings *m_common;
+    TypedOptions *m_typed;
     QVBoxLayout *m_panelHome;
     SummaryPage *m_summary;
     ConflictLine *m_conflictLine;

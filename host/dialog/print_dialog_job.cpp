@@ -10,6 +10,7 @@
 #include "host/ps_job.h"
 #include "host/settings/common_settings.h"
 #include "host/settings/secrets.h"
+#include "host/settings/typed_options.h"
 #include "platform/ppd_marks.h"
 
 #include <QFileDialog>
@@ -62,7 +63,7 @@ bool PrintDialog::settleConflicts(Purpose purpose) {
                                             QString::fromUtf8(change.to->choice));
     }
     if (!decision.changes.isEmpty()) {
-        m_common->refresh();
+        refreshSettings();
         m_presets->noteChange();
         refresh();
     }
@@ -70,9 +71,11 @@ bool PrintDialog::settleConflicts(Purpose purpose) {
 }
 
 QString PrintDialog::askTarget() {
-    return QFileDialog::getSaveFileName(this, tr("Print to File"),
-                                        QFileInfo(m_setup.document->path).completeBaseName() +
-                                            QStringLiteral(".ps"),
+    const QString name = QFileInfo(m_setup.document->path).completeBaseName();
+    QString proposed = name + QStringLiteral(".ps");
+    for (int number = 2; QFileInfo::exists(proposed) && number < 1000; ++number)
+        proposed = QStringLiteral("%1-%2.ps").arg(name).arg(number);
+    return QFileDialog::getSaveFileName(this, tr("Print to File"), proposed,
                                         tr("PostScript (*.ps)"));
 }
 
@@ -80,9 +83,9 @@ void PrintDialog::print() {
     if (!m_job)
         return;
     tell({});
-    if (!m_common->problem().isNull()) {
+    if (!m_common->problem().isNull() || !m_typed->problem().isNull()) {
         m_tabs->setCurrentIndex(0);
-        m_common->showProblem();
+        m_common->problem().isNull() ? m_typed->showProblem() : m_common->showProblem();
         return;
     }
     if (!m_setup.document)

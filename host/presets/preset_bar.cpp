@@ -2,9 +2,9 @@
 
 #include "host/host_error.h"
 #include "host/presets/problem_area.h"
+#include "platform/views/menu_box.h"
 
 #include <QAccessible>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -21,7 +21,7 @@ constexpr int kListCharacters = 24; // longer names don't widen the window
 } // namespace
 
 PresetBar::PresetBar(const PresetStore &store, std::function<Preset()> current, QWidget *parent)
-    : QWidget(parent), m_store(store), m_current(std::move(current)), m_list(new QComboBox),
+    : QWidget(parent), m_store(store), m_current(std::move(current)), m_list(new MenuBox),
       m_problems(new ProblemArea) {
     setObjectName(QStringLiteral("presetBar"));
     auto *label = new QLabel(tr("Pr&eset:"));

@@ -30,13 +30,16 @@ QList<QueueInfo> readQueues(CupsServer &server) {
     return queues;
 }
 
+/// @param text  null for a queue without a PPD
+PpdSource sourceOf(const QByteArray &text, const QString &queue) {
+    return text.isNull() ? PpdSource{nullptr, Printer{queue}} : openPpdText(text, queue);
+}
+
 std::shared_ptr<QueueDetails> readDetails(CupsServer &server, const QString &queue) {
     auto details = std::make_shared<QueueDetails>();
-    details->source.printer = Printer{queue};
     details->serverDefaults = serverDefaults(server.printerAttributes(queue, kDefaults).get());
     details->userOptions = readUserOptions();
-    if (const QByteArray text = server.findPpd(queue); !text.isNull())
-        details->source = openPpdText(text, queue);
+    details->source = sourceOf(server.findPpd(queue), queue);
     return details;
 }
 
@@ -123,6 +126,42 @@ void QueueDirectory::askDetails(const QString &queue) {
                 return;
             m_missed = queue;
             emit detailsFailed(queue, reason);
+        });
+}
+
+void QueueDirectory::askPpds(const QStringList &queues) {
+    const bool isIdle = m_ppds.isEmpty();
+    for (const QString &queue : queues)
+        if (!m_knownPpds.contains(queue)) {
+            m_knownPpds.insert(queue);
+            m_ppds.append(queue);
+        }
+    if (isIdle)
+        askNextPpd();
+}
+
+void QueueDirectory::askNextPpd() {
+    if (m_ppds.isEmpty())
+        return;
+    inBackground(
+        this,
+        [deadlines = m_deadlines, stop = m_end.get_token(), queue = m_ppds.first()] {
+            CupsServer server(deadlines, {}, stop);
+            const QByteArray text = server.findPpd(queue);
+            try {
+                return sourceOf(text, queue);
+            } catch (const HostError &) {
+                return sourceOf({}, queue); // told to whoever chooses the queue
+            }
+        },
+        [this](const PpdSource &source) {
+            emit ppdRead(source);
+            m_ppds.removeFirst();
+            askNextPpd();
+        },
+        [this](const QString &) {
+            for (const QString &queue : std::exchange(m_ppds, {}))
+                m_knownPpds.remove(queue);
         });
 }
 

@@ -6,6 +6,7 @@
 #include "host/queues/queue_info.h"
 
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 
 #include <memory>
@@ -43,6 +44,10 @@ public:
     /// Gives the question for details up.
     void forgetDetails();
 
+    /// Asks for the queues' PPDs, one behind the other, each once; after a failure of the server no
+    /// more, until the next call.
+    void askPpds(const QStringList &queues);
+
 signals:
     /// With the first answer, and with each that is another than the one before. One queue at most
     /// is the default: that of the person, of the machine, or of the server.
@@ -55,17 +60,23 @@ signals:
     /// @param details  the receiver may take what is in it
     void detailsReady(const std::shared_ptr<host::QueueDetails> &details);
     void detailsFailed(const QString &queue, const QString &reason);
+    /// An answer to askPpds(). @param source  without a PPD for a queue that has none, or one that
+    /// can't be read
+    void ppdRead(const host::PpdSource &source);
 
 private:
     void askQueues();
     void take(QList<QueueInfo> queues);
     void askDetailsAgain();
+    void askNextPpd();
 
     CupsDeadlines m_deadlines;
     QList<QueueInfo> m_queues;
     std::stop_source m_end;     ///< of this object
     std::stop_source m_details; ///< of the last question for details
     QString m_missed;           ///< the queue whose details couldn't be got; null for none
+    QStringList m_ppds;         ///< queues whose PPDs are to be asked for
+    QSet<QString> m_knownPpds;  ///< and those that were
     QTimer m_timer;
     bool m_asking = false;
     bool m_answered = false;

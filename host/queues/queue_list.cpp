@@ -150,6 +150,10 @@ void QueueList::setQueues(const QList<QueueInfo> &queues) {
     showStatus();
 }
 
+void QueueList::setPanel(const QString &queue, const QString &name) {
+    m_model->setPanel(queue, name);
+}
+
 void QueueList::setRecent(const QStringList &names) {
     changeRows(Look::AtSelection, [&] { m_model->setRecent(names); });
 }

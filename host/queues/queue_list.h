@@ -26,6 +26,8 @@ public:
     void setQueues(const QList<QueueInfo> &queues);
     /// The queues that were used lately, the latest first.
     void setRecent(const QStringList &names);
+    /// Tells that a queue has a panel of its own.
+    void setPanel(const QString &queue, const QString &name);
     /// The server can't be asked: says why, and offers to try again. Null takes it away.
     void setFailure(const QString &reason);
 

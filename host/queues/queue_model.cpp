@@ -45,6 +45,12 @@ void QueueModel::setFilter(const QString &words) {
     rebuild();
 }
 
+void QueueModel::setPanel(const QString &queue, const QString &name) {
+    m_panels.insert(queue, name);
+    if (const int row = rowOf(queue); row >= 0)
+        emit dataChanged(index(row), index(row));
+}
+
 void QueueModel::keep(const QString &queue) {
     if (queue == m_kept)
         return;
@@ -130,6 +136,8 @@ QString QueueModel::aboutOf(int row, const QueueInfo *info) const {
     if (row == 0)
         return tr("Makes a PostScript file");
     QStringList parts;
+    if (const QString panel = m_panels.value(queueAt(row)); !panel.isEmpty())
+        parts.append(tr("with %1").arg(panel));
     if (info)
         for (const QString &text : {info->description, info->location})
             if (!text.isEmpty() && text != info->name)

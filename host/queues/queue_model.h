@@ -24,6 +24,8 @@ public:
     void setQueues(const QList<QueueInfo> &queues);
     /// The queues that were used lately, the latest first.
     void setRecent(const QStringList &names);
+    /// Tells that a queue has a panel of its own.
+    void setPanel(const QString &queue, const QString &name);
     void setFilter(const QString &words);
     /// A queue that stays listed though the server doesn't tell it, or hasn't yet; null for none.
     void keep(const QString &queue);
@@ -57,6 +59,7 @@ private:
     QList<QueueInfo> m_queues; ///< in the order of the rows
     QCollator m_collator;
     QStringList m_recent;
+    QHash<QString, QString> m_panels; ///< their names by queue
     QStringList m_words;
     QString m_kept;
     QStringList m_rows; ///< names, behind the file's row

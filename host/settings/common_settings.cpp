@@ -6,10 +6,10 @@
 #include "host/settings/ppd_texts.h"
 #include "host/settings/tool_tip.h"
 #include "platform/views/captioned.h"
+#include "platform/views/menu_box.h"
 #include "platform/views/text_view.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -17,7 +17,6 @@
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QSpinBox>
-#include <QStandardItemModel>
 
 namespace host {
 namespace {
@@ -34,22 +33,21 @@ void setTitle(TextView *label, const QString &title) {
 
 } // namespace
 
-CommonSettings::CommonSettings(QWidget *parent) : QWidget(parent) {
+CommonSettings::CommonSettings(QWidget *parent) : QWidget(parent), m_form(new QFormLayout(this)) {
     setObjectName(QStringLiteral("commonSettings"));
-    auto *layout = new QFormLayout(this);
-    layout->setContentsMargins({});
-    addCopies(layout);
-    addPages(layout);
-    addList(layout, Setting::Orientation, QStringLiteral("orientation"));
-    addList(layout, Setting::NumberUp, QStringLiteral("numberUp"));
-    addList(layout, Setting::Sides, QStringLiteral("sides"));
-    addList(layout, Setting::PaperSize, QStringLiteral("paperSize"));
-    addList(layout, Setting::PaperSource, QStringLiteral("paperSource"));
-    addList(layout, Setting::PaperType, QStringLiteral("paperType"));
+    m_form->setContentsMargins({});
+    addCopies();
+    addPages();
+    addList(Setting::Orientation, QStringLiteral("orientation"));
+    addList(Setting::NumberUp, QStringLiteral("numberUp"));
+    addList(Setting::Sides, QStringLiteral("sides"));
+    addList(Setting::PaperSize, QStringLiteral("paperSize"));
+    addList(Setting::PaperSource, QStringLiteral("paperSource"));
+    addList(Setting::PaperType, QStringLiteral("paperType"));
     setSettings(nullptr);
 }
 
-void CommonSettings::addCopies(QFormLayout *layout) {
+void CommonSettings::addCopies() {
     m_copies = new QSpinBox;
     m_copies->setObjectName(QStringLiteral("copies"));
     m_copies->setRange(1, JobSettings::kMostCopies);
@@ -60,7 +58,7 @@ void CommonSettings::addCopies(QFormLayout *layout) {
     row->addWidget(m_copies);
     row->addWidget(m_collate);
     row->addStretch();
-    layout->addRow(m_copiesLabel, row);
+    m_form->addRow(m_copiesLabel, row);
     watchNumber(m_copies, this, [this] { takeCopies(); });
     connect(m_collate, &QCheckBox::toggled, this, [this](bool on) {
         if (m_showing || !m_settings)
@@ -71,10 +69,10 @@ void CommonSettings::addCopies(QFormLayout *layout) {
     });
 }
 
-void CommonSettings::addPages(QFormLayout *layout) {
+void CommonSettings::addPages() {
     m_allPages = new QRadioButton(tr("&All pages"));
     m_allPages->setObjectName(QStringLiteral("allPages"));
-    m_somePages = new QRadioButton(tr("Pa&ges:"));
+    m_somePages = new QRadioButton(tr("Page&s:"));
     m_somePages->setObjectName(QStringLiteral("somePages"));
     m_pages = new QLineEdit;
     m_pages->setObjectName(QStringLiteral("pages"));
@@ -92,8 +90,8 @@ void CommonSettings::addPages(QFormLayout *layout) {
     row->addWidget(m_allPages);
     row->addWidget(m_somePages);
     row->addWidget(m_pages, 1);
-    layout->addRow(m_pagesLabel, row);
-    layout->addRow(nullptr, m_pagesWords);
+    m_form->addRow(m_pagesLabel, row);
+    m_form->addRow(nullptr, m_pagesWords);
     connect(m_somePages, &QRadioButton::toggled, this, [this](bool on) {
         if (!m_showing && on && m_pages->text().isEmpty() && m_somePages->hasFocus())
             m_pages->setFocus();
@@ -107,15 +105,13 @@ void CommonSettings::addPages(QFormLayout *layout) {
     });
 }
 
-void CommonSettings::addList(QFormLayout *layout, Setting setting, const QString &name) {
-    auto *box = new QComboBox;
+void CommonSettings::addList(Setting setting, const QString &name) {
+    auto *box = new ChoiceMenu;
     box->setObjectName(name);
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(16); // foreign texts may be long; the open list shows them whole
     const List list{setting, labelFor(box), box, new CustomValues};
     list.custom->setObjectName(name + QStringLiteral("Values"));
-    layout->addRow(list.label, box);
-    layout->addRow(nullptr, list.custom);
+    m_form->addRow(list.label, box);
+    m_form->addRow(nullptr, list.custom);
     m_lists.append(list);
     connect(box, &QComboBox::activated, this, [this, list] { choose(list); });
     connect(list.custom, &CustomValues::changed, this, &CommonSettings::changed);
@@ -147,7 +143,7 @@ void CommonSettings::setSettings(JobSettings *settings, const ConflictReason &co
         return option ? optionText(*option) : own;
     };
     const QString collate = title(Setting::Collate, {});
-    m_collate->setText(collate.isNull() ? tr("C&ollate") : views::escapeMnemonics(collate));
+    m_collate->setText(collate.isNull() ? tr("Co&llate") : views::escapeMnemonics(collate));
     for (const List &list : std::as_const(m_lists)) {
         setTitle(list.label, title(list.setting, ownTitle(list.setting)));
         list.custom->setOption(m_settings ? m_settings->ppd() : nullptr,
@@ -210,48 +206,24 @@ void CommonSettings::showPagesProblem(const QString &words) {
 }
 
 void CommonSettings::fill(const List &list) {
-    const QSignalBlocker blocker(list.box);
-    const QString reason =
-        m_settings ? m_settings->whyNot(list.setting) : tr("Choose a printer first.");
-    const QList<SettingChoice> choices =
-        m_settings ? m_settings->choices(list.setting) : QList<SettingChoice>();
-    if (list.box->count() != choices.size())
-        list.box->clear();
-    const QString now = m_settings ? m_settings->value(list.setting) : QString();
-    const QString option = m_settings ? m_settings->key(list.setting) : QString();
-    auto *model = qobject_cast<QStandardItemModel *>(list.box->model());
-    QString told;
-    list.box->setCurrentIndex(-1);
-    for (int i = 0; i < choices.size(); ++i) {
-        const auto &[keyword, text] = choices[i];
-        if (i >= list.box->count())
-            list.box->addItem(text, keyword);
-        list.box->setItemText(i, text);
-        list.box->setItemData(i, keyword);
-        const QString why = m_conflict ? m_conflict(option, keyword) : QString();
-        list.box->setItemData(i, plainToolTip(why.isNull() ? text : why), Qt::ToolTipRole);
-        list.box->setItemData(i, why, Qt::AccessibleDescriptionRole);
-        const bool isNow = keyword.compare(now, Qt::CaseInsensitive) == 0;
-        model->item(i)->setEnabled(why.isNull() || isNow);
-        if (isNow) {
-            list.box->setCurrentIndex(i);
-            told = why;
-        }
+    if (!m_settings) {
+        list.box->showChoices({}, {}, {}, {});
+        list.box->setPlaceholderText({});
+        return list.box->setReason(tr("Choose a printer first."));
     }
+    const QList<SettingChoice> choices = m_settings->choices(list.setting);
+    const QString told = list.box->showChoices(choices, m_settings->value(list.setting),
+                                               m_settings->key(list.setting), m_conflict);
     list.box->setPlaceholderText(choices.isEmpty() ? tr("not offered") : QString());
-    setReason(list.box, reason, told);
+    list.box->setReason(m_settings->whyNot(list.setting), told);
 }
 
 void CommonSettings::choose(const List &list) {
     if (!m_settings)
         return;
-    const QString wanted = list.box->currentData().toString();
-    // The size that is marked now is where a size of one's own begins.
-    QString choice = wanted;
-    if (const ppd_option_t *option = m_settings->ppdOption(list.setting);
-        option && isCustom(wanted) && m_settings->value(list.setting) != wanted)
-        choice = customChoice(*option,
-                              customParameters(m_settings->ppd(), m_settings->key(list.setting)));
+    QString choice = list.box->currentData().toString();
+    if (const ppd_option_t *option = m_settings->ppdOption(list.setting))
+        choice = pickedChoice(m_settings->ppd(), *option, choice, m_settings->value(list.setting));
     const bool done = m_settings->setValue(list.setting, choice);
     refresh();
     if (done)

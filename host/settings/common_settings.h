@@ -1,14 +1,12 @@
 #pragma once
 
-#include "host/settings/job_settings.h"
+#include "host/settings/choice_menu.h"
 
 #include <QWidget>
 
 #include <array>
-#include <functional>
 
 class QCheckBox;
-class QComboBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -19,9 +17,6 @@ class TextView;
 namespace host {
 
 class CustomValues;
-
-/// Why a choice conflicts with what is marked, in words for a person; null where it doesn't.
-using ConflictReason = std::function<QString(const QString &option, const QString &choice)>;
 
 /// The controls of the common settings.
 ///
@@ -34,6 +29,8 @@ class CommonSettings : public QWidget {
 public:
     explicit CommonSettings(QWidget *parent = nullptr);
 
+    /// The rows, for further ones behind them.
+    QFormLayout *form() const { return m_form; }
     /// Shows the settings of another job.
     /// @param settings  borrowed until the next call; null while there is none
     /// @param conflict  may be empty
@@ -57,13 +54,13 @@ private:
     struct List {
         Setting setting;
         TextView *label;
-        QComboBox *box;
+        ChoiceMenu *box;
         CustomValues *custom;
     };
 
-    void addCopies(QFormLayout *layout);
-    void addPages(QFormLayout *layout);
-    void addList(QFormLayout *layout, Setting setting, const QString &name);
+    void addCopies();
+    void addPages();
+    void addList(Setting setting, const QString &name);
     void fill(const List &list);
     void choose(const List &list);
     void takeCopies();
@@ -79,6 +76,7 @@ private:
     bool m_showing = false; ///< the controls' signals come from here
     QString m_pagesProblem;
 
+    QFormLayout *m_form;
     TextView *m_copiesLabel;
     QSpinBox *m_copies;
     QCheckBox *m_collate;

@@ -127,6 +127,13 @@ QString withoutOption(Setting setting) {
 
 } // namespace
 
+QList<SettingChoice> choicesOf(const ppd_option_t &option) {
+    QList<SettingChoice> list;
+    for (int i = 0; i < option.num_choices; ++i)
+        list.append({QString::fromUtf8(option.choices[i].choice), choiceText(option.choices[i])});
+    return list;
+}
+
 const QList<Setting> &JobSettings::all() {
     static const QList<Setting> settings = [] {
         QList<Setting> list;
@@ -184,12 +191,8 @@ QString JobSettings::whyNot(Setting setting) const {
 
 QList<SettingChoice> JobSettings::choices(Setting setting) const {
     QList<SettingChoice> list;
-    if (const ppd_option_t *option = ppdOption(setting)) {
-        for (int i = 0; i < option->num_choices; ++i)
-            list.append(
-                {QString::fromUtf8(option->choices[i].choice), choiceText(option->choices[i])});
-        return list;
-    }
+    if (const ppd_option_t *option = ppdOption(setting))
+        return choicesOf(*option);
     if (setting == Setting::Orientation) {
         // Nothing told means the server's default.
         if (queueDefault(setting).isEmpty())

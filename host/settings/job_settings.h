@@ -28,6 +28,9 @@ struct SettingChoice {
     QString text;    ///< for a person; the PPD's where the PPD has the setting
 };
 
+/// The choices of a PPD's option, in its order.
+QList<SettingChoice> choicesOf(const ppd_option_t &option);
+
 /// The common settings of one job, without widgets. Used on the interface's thread.
 ///
 /// Each has one home: an option of the PPD, then its value is that option's mark, which panels and

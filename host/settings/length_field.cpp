@@ -2,8 +2,8 @@
 
 #include "host/settings/number_field.h"
 #include "host/words.h"
+#include "platform/views/menu_box.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
@@ -44,7 +44,7 @@ LengthUnit usualLengthUnit() {
 
 LengthField::LengthField(double least, double greatest, QWidget *parent)
     : QWidget(parent), m_least(least), m_greatest(greatest), m_points(least),
-      m_number(new NumberField), m_unit(new QComboBox) {
+      m_number(new NumberField), m_unit(new MenuBox) {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_number);
@@ -53,6 +53,7 @@ LengthField::LengthField(double least, double greatest, QWidget *parent)
         m_unit->addItem(HostWords::tr(row.name));
     m_unit->setAccessibleName(HostWords::tr("Unit"));
     m_unit->setCurrentIndex(static_cast<int>(usualLengthUnit()));
+    m_number->setMinimumWidth(m_number->fontMetrics().averageCharWidth() * 14);
     setFocusProxy(m_number);
     showUnit();
     watchNumber(m_number, this, [this] { takeNumber(); });

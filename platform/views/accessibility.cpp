@@ -11,17 +11,18 @@ namespace views {
 
 namespace {
 
-/// As Qt's for combo boxes, but for the name: on Unix Qt gives the current item there.
-class AccessiblePopup : public QAccessibleWidget {
+/// As Qt's for combo boxes, but for the name.
+class AccessibleMenu : public QAccessibleWidget {
 public:
-    explicit AccessiblePopup(PopupView *view)
+    explicit AccessibleMenu(MenuBox *view)
         : QAccessibleWidget(view, QAccessible::ComboBox), m_view(view) {}
 
     QString text(QAccessible::Text kind) const override {
         const QString own =
             kind == QAccessible::Value ? m_view->currentText() : QAccessibleWidget::text(kind);
-        return kind == QAccessible::Description && own.isEmpty()
-                   ? m_view->itemExplanation(m_view->currentIndex())
+        const auto *popup = qobject_cast<const PopupView *>(m_view);
+        return popup && kind == QAccessible::Description && own.isEmpty()
+                   ? popup->itemExplanation(popup->currentIndex())
                    : own;
     }
     int childCount() const override { return 1; }
@@ -45,7 +46,7 @@ public:
     }
 
 private:
-    PopupView *m_view;
+    MenuBox *m_view;
 };
 
 bool moveTo(SliderView *view, int value) {
@@ -82,8 +83,8 @@ private:
 };
 
 QAccessibleInterface *accessibleView(const QString &className, QObject *object) {
-    if (className == QLatin1String("PopupView"))
-        return new AccessiblePopup(static_cast<PopupView *>(object));
+    if (className == QLatin1String("MenuBox")) // popups are, too
+        return new AccessibleMenu(static_cast<MenuBox *>(object));
     if (className == QLatin1String("SliderView"))
         return new AccessibleNumber(static_cast<SliderView *>(object), QAccessible::Slider);
     if (className == QLatin1String("StepperView"))

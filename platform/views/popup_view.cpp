@@ -36,8 +36,7 @@ private:
 
 } // namespace
 
-PopupView::PopupView(QWidget *parent) : QComboBox(parent) {
-    views::installAccessibility();
+PopupView::PopupView(QWidget *parent) : MenuBox(parent) {
     setFocusPolicy(Qt::StrongFocus); // the wheel doesn't give focus
     connect(this, &QComboBox::activated, this, &PopupView::activate);
 }
@@ -121,7 +120,7 @@ bool PopupView::chooseItem(int index) {
 
 void PopupView::showPopup() {
     m_shown = currentIndex();
-    QComboBox::showPopup();
+    MenuBox::showPopup();
 }
 
 void PopupView::dropAction() {
@@ -131,24 +130,24 @@ void PopupView::dropAction() {
 
 bool PopupView::event(QEvent *event) {
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
-        return QComboBox::event(event);
+        return MenuBox::event(event);
     const QString words = toolTipOf(itemExplanation(currentIndex()));
     if (words.isEmpty())
-        return QComboBox::event(event);
+        return MenuBox::event(event);
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), words, this);
     return true;
 }
 
 void PopupView::keyPressEvent(QKeyEvent *event) {
     m_shown = currentIndex();
-    QComboBox::keyPressEvent(event);
+    MenuBox::keyPressEvent(event);
 }
 
 void PopupView::wheelEvent(QWheelEvent *event) {
     if (!hasFocus())
         return event->ignore(); // scrolling past the menu must not change it
     m_shown = currentIndex();
-    QComboBox::wheelEvent(event);
+    MenuBox::wheelEvent(event);
 }
 
 void PopupView::activate(int index) {

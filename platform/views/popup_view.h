@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/views/menu_box.h"
 #include "platform/views/view.h"
-
-#include <QComboBox>
 
 #include <functional>
 #include <optional>
@@ -11,7 +10,7 @@
 ///
 /// Only a person's choice of another item sends the action; picking the item already shown, the
 /// wheel without focus and every change by the program are silent.
-class PDE_PLATFORM_EXPORT PopupView : public QComboBox, public views::ActionSource {
+class PDE_PLATFORM_EXPORT PopupView : public MenuBox, public views::ActionSource {
     Q_OBJECT
 public:
     explicit PopupView(QWidget *parent = nullptr);

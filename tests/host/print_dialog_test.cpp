@@ -13,7 +13,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QPointer>
 #include <QPushButton>
@@ -61,6 +63,15 @@ bool pick(QWidget &dialog, const QString &queue) {
             return true;
         }
     return false;
+}
+
+/// What the list tells of a printer behind its name and state.
+QString aboutOf(QWidget &dialog, const QString &queue) {
+    const auto *model = find<QListView>(dialog, "queueList")->model();
+    for (int row = 0; row < model->rowCount(); ++row)
+        if (model->index(row, 0).data().toString() == queue)
+            return model->index(row, 0).data(Qt::AccessibleDescriptionRole).toString();
+    return {};
 }
 
 } // namespace
@@ -116,6 +127,10 @@ TEST(PrintDialog, KeepsChoicesOfEachPrinterAndPrintsThem) {
         auto *tabs = find<QTabWidget>(dialog, "pages");
         const auto ready = [&] { return printButton(dialog)->isEnabled(); };
         ASSERT_TRUE(wait(ready) && tabs->isTabVisible(1));
+        EXPECT_TRUE(wait([&] {
+            return aboutOf(dialog, "One").contains("with Image Options") &&
+                   !aboutOf(dialog, "Two").contains("with");
+        }));
         tabs->setCurrentIndex(1);
         QTimer::singleShot(0, &dialog, [] {
             ModalWindow *window = ModalWindow::current();
@@ -147,4 +162,35 @@ TEST(PrintDialog, KeepsChoicesOfEachPrinterAndPrintsThem) {
     for (const char *feature : {"*QZColorBalanceAdjustment True", "*QZColorDensityBlackLow 2",
                                 "*QZColorDensityCyanLow 0"})
         EXPECT_TRUE(printed.contains(feature)) << feature;
+}
+
+/// Without any printer a person can still make a file: for a plain PostScript printer.
+TEST(PrintDialog, PrintsToAFileWithoutAServer) {
+    const ServerInUse server("/nonexistent/socket");
+    const QTemporaryDir folder;
+    host::PrintDialog dialog(setupFor(folder));
+    dialog.show();
+    auto *paper = find<QComboBox>(dialog, "paperSize");
+    const int letter = paper->findText("Letter");
+    ASSERT_GE(letter, 0);
+    paper->setCurrentIndex(letter);
+    emit paper->activated(letter);
+    EXPECT_FALSE(find<QWidget>(dialog, "copies")->isEnabled()) << "a file has each page once";
+
+    const QString target = folder.filePath("out.ps");
+    QTimer chooser;
+    QObject::connect(&chooser, &QTimer::timeout, [&] {
+        if (auto *files = dialog.findChild<QFileDialog *>(); files && files->isVisible()) {
+            chooser.stop();
+            files->findChild<QLineEdit *>("fileNameEdit")->setText(target);
+            files->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+        }
+    });
+    chooser.start(20);
+    printButton(dialog)->click();
+    QLabel *headline = find<QLabel>(dialog, "jobHeadline");
+    ASSERT_TRUE(wait([&] { return headline->text() == "The file was written."; }))
+        << headline->text().toStdString();
+    EXPECT_EQ(printedFeatures(readFile(target)).join(' ').toStdString(),
+              "*PageSize Letter *Duplex None");
 }

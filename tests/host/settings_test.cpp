@@ -7,6 +7,7 @@
 #include "host/settings/page_ranges.h"
 #include "host/settings/ppd_texts.h"
 #include "host/settings/secrets.h"
+#include "host/settings/typed_options.h"
 #include "platform/ppd_file.h"
 #include "platform/ppd_marks.h"
 #include "support/ppd_text.h"
@@ -15,6 +16,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -279,6 +281,40 @@ TEST(CustomValues, AreTypedWithinTheirRangesAndMarkedAsTyped) {
                   .contains("open"),
               false);
     QLocale::setDefault(QLocale::c());
+}
+
+TEST(TypedOptions, OffersWhatNothingElseShows) {
+    const PpdPtr ppd = settings();
+    QWidget window;
+    auto *form = new QFormLayout(&window);
+    form->addRow("Before", new QLineEdit);
+    host::TypedOptions typed(form);
+    QStringList changes;
+    QObject::connect(&typed, &host::TypedOptions::changed,
+                     [&](const QString &option) { changes.append(option); });
+    typed.setOptions(
+        ppd.get(), {"pagesize", "Mark"}, [](const QString &option, const QString &choice) {
+            return option == "Ink" && choice == "Custom" ? QString("No ink") : QString();
+        });
+    QStringList menus;
+    for (const auto *menu : window.findChildren<QComboBox *>())
+        if (menu->objectName().startsWith("option."))
+            menus.append(menu->objectName());
+    EXPECT_EQ(menus.join(' ').toStdString(), "option.Ink option.Pin");
+    const auto *ink = window.findChild<QComboBox *>("option.Ink");
+    EXPECT_FALSE(ink->model()->flags(ink->model()->index(1, 0)) & Qt::ItemIsEnabled);
+    auto *pin = window.findChild<QComboBox *>("option.Pin");
+    pin->setCurrentIndex(1);
+    emit pin->activated(1);
+    EXPECT_EQ(marked(ppd, "Pin"), "Custom.");
+    EXPECT_TRUE(typed.problem().isNull()) << "an empty PIN is asked for later";
+    auto *code = window.findChild<QLineEdit *>("custom.Pin.Code");
+    code->setText("12");
+    emit code->textEdited("12");
+    EXPECT_FALSE(typed.problem().isNull());
+    EXPECT_TRUE(changes.contains("Pin"));
+    typed.setOptions(nullptr);
+    EXPECT_EQ(form->rowCount(), 1);
 }
 
 TEST(CustomValues, AbsurdParametersAreMadeSafe) {

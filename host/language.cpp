@@ -1,0 +1,28 @@
+#include "host/language.h"
+
+#include "platform/bundle.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+
+namespace host {
+namespace {
+
+void install(QTranslator &translator, const QString &name, const QString &folder) {
+    for (const QString &language : Bundle::languages())
+        if (translator.load(name + language, folder)) {
+            QCoreApplication::installTranslator(&translator);
+            return;
+        } else if (language == u"en") {
+            return;
+        }
+}
+
+} // namespace
+
+Language::Language() {
+    install(m_qt, QStringLiteral("qtbase_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    install(m_own, QStringLiteral("pde-host_"), QStringLiteral(":/translations"));
+}
+
+} // namespace host
