@@ -5,921 +5,921 @@
     <name>host</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> und </translation>
     </message>
     <message>
         <source>Conflicting Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Unverträgliche Einstellungen</translation>
     </message>
     <message>
         <source>The printer can&apos;t print these together:</source>
-        <translation type="unfinished"></translation>
+        <translation>Das kann der Drucker nicht zusammen drucken:</translation>
     </message>
     <message>
         <source>There is no simple way to put this right. Go back and choose another value for one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dafür gibt es keine einfache Lösung. Gehen Sie zurück, und wählen Sie für eine davon einen anderen Wert.</translation>
     </message>
     <message>
         <source>This would put it right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Das würde es beheben:</translation>
     </message>
     <message>
         <source>&amp;Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurück</translation>
     </message>
     <message>
         <source>Print &amp;Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trotzdem drucken</translation>
     </message>
     <message>
         <source>&amp;Change and Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Än&amp;dern und drucken</translation>
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Än&amp;dern</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>a state and why</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>Not available with %1, and others</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbar mit %1 und anderen</translation>
     </message>
     <message>
         <source>Not available with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfügbar mit %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 → %3</translation>
     </message>
     <message>
         <source>CUPS server %1</source>
-        <translation type="unfinished"></translation>
+        <translation>CUPS-Server %1</translation>
     </message>
     <message>
         <source>it was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>es wurde abgebrochen</translation>
     </message>
     <message>
         <source>no CUPS server answers there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dort antwortet kein CUPS-Server: %1</translation>
     </message>
     <message>
         <source>CUPS server %1 sent no whole answer within %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Der CUPS-Server %1 hat innerhalb von %2 Sekunden keine vollständige Antwort gesendet</translation>
     </message>
     <message>
         <source>CUPS server %1 gave no answer within %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Der CUPS-Server %1 hat innerhalb von %2 Sekunden nicht geantwortet</translation>
     </message>
     <message>
         <source>CUPS server %1 closed the connection or sent no valid answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Der CUPS-Server %1 hat die Verbindung geschlossen oder keine gültige Antwort gesendet</translation>
     </message>
     <message>
         <source>CUPS server %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>CUPS-Server %1: %2</translation>
     </message>
     <message>
         <source>no such queue on CUPS server %1</source>
-        <translation type="unfinished"></translation>
+        <translation>keine solche Warteschlange auf dem CUPS-Server %1</translation>
     </message>
     <message>
         <source>has no default queue</source>
-        <translation type="unfinished"></translation>
+        <translation>hat keine Standardwarteschlange</translation>
     </message>
     <message>
         <source>the queue has no PPD</source>
-        <translation type="unfinished"></translation>
+        <translation>die Warteschlange hat keine PPD</translation>
     </message>
     <message>
         <source>its PPD can&apos;t be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre PPD kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>its PPD is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre PPD ist zu groß</translation>
     </message>
     <message>
         <source>the job was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>der Auftrag wurde abgebrochen</translation>
     </message>
     <message>
         <source>job %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag %1</translation>
     </message>
     <message>
         <source>Print to File</source>
-        <translation type="unfinished"></translation>
+        <translation>In Datei drucken</translation>
     </message>
     <message>
         <source>Authentication Needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung erforderlich</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass&amp;wort:</translation>
     </message>
     <message>
         <source>%1 didn&apos;t finish within %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde innerhalb von %2 Sekunden nicht fertig</translation>
     </message>
     <message>
         <source>given up</source>
-        <translation type="unfinished"></translation>
+        <translation>abgebrochen</translation>
     </message>
     <message>
         <source>%1 wrote too much</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat zu viel geschrieben</translation>
     </message>
     <message>
         <source>%1 can&apos;t convert it to %2%3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann es nicht in %2 umwandeln%3</translation>
     </message>
     <message>
         <source>is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>ist leer</translation>
     </message>
     <message>
         <source>is neither PostScript nor PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>ist weder PostScript noch PDF</translation>
     </message>
     <message>
         <source>a PDF needs pdftops or gs, and neither is installed</source>
-        <translation type="unfinished"></translation>
+        <translation>eine PDF-Datei braucht pdftops oder gs, und keines von beiden ist installiert</translation>
     </message>
     <message>
         <source>PostScript needs gs, which isn&apos;t installed</source>
-        <translation type="unfinished"></translation>
+        <translation>PostScript braucht gs, das nicht installiert ist</translation>
     </message>
     <message>
         <source>can&apos;t be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>a value of one&apos;s own (“%1”) is no longer taken</source>
-        <translation type="unfinished"></translation>
+        <translation>ein eigener Wert („%1“) wird nicht mehr angenommen</translation>
     </message>
     <message>
         <source>“%1” is outside of what this printer takes</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ liegt außerhalb dessen, was dieser Drucker annimmt</translation>
     </message>
     <message>
         <source>“%1” is no longer there</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ gibt es nicht mehr</translation>
     </message>
     <message>
         <source>“%1” is no longer a setting of this printer; the preset has “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Einstellung dieses Druckers mehr; die Voreinstellung hat „%2“</translation>
     </message>
     <message>
         <source>%1: is locked and stays “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ist gesperrt und bleibt „%2“</translation>
     </message>
     <message>
         <source>passwords aren&apos;t kept in presets; enter it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwörter werden in Voreinstellungen nicht aufbewahrt; geben Sie es erneut ein</translation>
     </message>
     <message>
         <source>Not possible: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht möglich: %1.</translation>
     </message>
     <message>
         <source>the name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name ist leer</translation>
     </message>
     <message>
         <source>the name begins or ends with a blank</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name beginnt oder endet mit einem Leerzeichen</translation>
     </message>
     <message>
         <source>the name has more than %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name hat mehr als %1 Zeichen</translation>
     </message>
     <message>
         <source>the name has a character that can&apos;t be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name hat ein Zeichen, das nicht gezeigt werden kann</translation>
     </message>
     <message>
         <source>can&apos;t be made</source>
-        <translation type="unfinished"></translation>
+        <translation>kann nicht angelegt werden</translation>
     </message>
     <message>
         <source>is in use by another program</source>
-        <translation type="unfinished"></translation>
+        <translation>wird von einem anderen Programm benutzt</translation>
     </message>
     <message>
         <source>“%1” isn&apos;t what it should be</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht, was es sein sollte</translation>
     </message>
     <message>
         <source>“%1” has a character that is none</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat ein Zeichen, das keines ist</translation>
     </message>
     <message>
         <source>“%1” has an empty key</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat einen leeren Schlüssel</translation>
     </message>
     <message>
         <source>is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>ist größer als %1 MB</translation>
     </message>
     <message>
         <source>isn&apos;t a preset: line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ist keine Voreinstellung: Zeile %1: %2</translation>
     </message>
     <message>
         <source>isn&apos;t a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>ist keine Voreinstellung</translation>
     </message>
     <message>
         <source>has a key twice</source>
-        <translation type="unfinished"></translation>
+        <translation>hat einen Schlüssel zweimal</translation>
     </message>
     <message>
         <source>was made by a newer version of this program (format %1); it is left as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>wurde von einer neueren Version dieses Programms angelegt (Format %1) und bleibt, wie es ist</translation>
     </message>
     <message>
         <source>has the unknown key “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>hat den unbekannten Schlüssel „%1“</translation>
     </message>
     <message>
         <source>can&apos;t be removed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kann nicht gelöscht werden: %1</translation>
     </message>
     <message>
         <source>“%1” has no preset of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keine Voreinstellung dieses Namens</translation>
     </message>
     <message>
         <source>is too large for a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>ist zu groß für eine Voreinstellung</translation>
     </message>
     <message>
         <source>The last used settings of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Die zuletzt benutzten Einstellungen von „%1“</translation>
     </message>
     <message>
         <source>the document is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>das Dokument ist beschädigt.</translation>
     </message>
     <message>
         <source>the document is protected by a password.</source>
-        <translation type="unfinished"></translation>
+        <translation>das Dokument ist durch ein Passwort geschützt.</translation>
     </message>
     <message>
         <source>the document has no pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>das Dokument hat keine Seiten.</translation>
     </message>
     <message>
         <source>the document is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>das Dokument ist zu groß.</translation>
     </message>
     <message>
         <source>Page %1 is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 ist beschädigt.</translation>
     </message>
     <message>
         <source>Page %1 has a size that can&apos;t be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 hat eine Größe, die nicht gezeichnet werden kann.</translation>
     </message>
     <message>
         <source>Page %1 takes too long to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 zu zeichnen dauert zu lange.</translation>
     </message>
     <message>
         <source>Page %1 can&apos;t be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 kann nicht gezeichnet werden.</translation>
     </message>
     <message>
         <source>is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>ist zu groß</translation>
     </message>
     <message>
         <source>%1: line %2 isn&apos;t UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Zeile %2 ist kein UTF-8</translation>
     </message>
     <message>
         <source>State unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand unbekannt</translation>
     </message>
     <message>
         <source>Idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten</translation>
     </message>
     <message>
         <source>%1, takes no jobs</source>
         <extracomment>a state, such as &quot;Idle&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, nimmt keine Aufträge an</translation>
     </message>
     <message>
         <source>The printer takes no jobs at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker nimmt zurzeit keine Aufträge an.</translation>
     </message>
     <message>
         <source>The printer is paused. Jobs wait until it goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker ist angehalten. Aufträge warten, bis er weitermacht.</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <extracomment>a sentence and why</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht verbunden</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>stellt Verbindung her</translation>
     </message>
     <message>
         <source>answers in a wrong way</source>
-        <translation type="unfinished"></translation>
+        <translation>antwortet falsch</translation>
     </message>
     <message>
         <source>driver isn&apos;t safe to run</source>
-        <translation type="unfinished"></translation>
+        <translation>Treiber ist nicht sicher</translation>
     </message>
     <message>
         <source>driver is incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>Treiber ist unvollständig</translation>
     </message>
     <message>
         <source>certificate isn&apos;t valid</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikat ist ungültig</translation>
     </message>
     <message>
         <source>job is held</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag wird zurückgehalten</translation>
     </message>
     <message>
         <source>job has stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag ist angehalten</translation>
     </message>
     <message>
         <source>job was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag wurde abgebrochen</translation>
     </message>
     <message>
         <source>job was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag wurde aufgegeben</translation>
     </message>
     <message>
         <source>account is needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto ist nötig</translation>
     </message>
     <message>
         <source>account&apos;s limit is reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Limit des Kontos ist erreicht</translation>
     </message>
     <message>
         <source>set up anew</source>
-        <translation type="unfinished"></translation>
+        <translation>wurde neu eingerichtet</translation>
     </message>
     <message>
         <source>cover is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abdeckung ist offen</translation>
     </message>
     <message>
         <source>switched off for jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>für Aufträge abgeschaltet</translation>
     </message>
     <message>
         <source>out of developer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwickler ist leer</translation>
     </message>
     <message>
         <source>developer is low</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwickler geht zur Neige</translation>
     </message>
     <message>
         <source>door is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Klappe ist offen</translation>
     </message>
     <message>
         <source>fuser is too hot</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixiereinheit ist zu heiß</translation>
     </message>
     <message>
         <source>fuser is too cold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixiereinheit ist zu kalt</translation>
     </message>
     <message>
         <source>asleep</source>
-        <translation type="unfinished"></translation>
+        <translation>im Ruhezustand</translation>
     </message>
     <message>
         <source>new jobs are held</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Aufträge werden zurückgehalten</translation>
     </message>
     <message>
         <source>shows where it stands</source>
-        <translation type="unfinished"></translation>
+        <translation>zeigt, wo er steht</translation>
     </message>
     <message>
         <source>tray is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Fach fehlt</translation>
     </message>
     <message>
         <source>a lock is open</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Verriegelung ist offen</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>zu wenig Speicher</translation>
     </message>
     <message>
         <source>out of ink</source>
-        <translation type="unfinished"></translation>
+        <translation>Tinte ist leer</translation>
     </message>
     <message>
         <source>ink is low</source>
-        <translation type="unfinished"></translation>
+        <translation>Tinte geht zur Neige</translation>
     </message>
     <message>
         <source>ink is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Tinte fehlt</translation>
     </message>
     <message>
         <source>waste box is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>Auffangbehälter ist fast voll</translation>
     </message>
     <message>
         <source>waste box is full</source>
-        <translation type="unfinished"></translation>
+        <translation>Auffangbehälter ist voll</translation>
     </message>
     <message>
         <source>out of paper</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Papier</translation>
     </message>
     <message>
         <source>paper jam</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierstau</translation>
     </message>
     <message>
         <source>paper is low</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier geht zur Neige</translation>
     </message>
     <message>
         <source>needs other paper</source>
-        <translation type="unfinished"></translation>
+        <translation>braucht anderes Papier</translation>
     </message>
     <message>
         <source>about to pause</source>
-        <translation type="unfinished"></translation>
+        <translation>hält gleich an</translation>
     </message>
     <message>
         <source>drum is used up</source>
-        <translation type="unfinished"></translation>
+        <translation>Trommel ist verbraucht</translation>
     </message>
     <message>
         <source>drum is nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>Trommel ist fast verbraucht</translation>
     </message>
     <message>
         <source>needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>braucht Zuwendung</translation>
     </message>
     <message>
         <source>output tray is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabefach ist fast voll</translation>
     </message>
     <message>
         <source>output tray is full</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabefach ist voll</translation>
     </message>
     <message>
         <source>output tray is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabefach fehlt</translation>
     </message>
     <message>
         <source>switching off</source>
-        <translation type="unfinished"></translation>
+        <translation>schaltet sich ab</translation>
     </message>
     <message>
         <source>about to go on</source>
-        <translation type="unfinished"></translation>
+        <translation>macht gleich weiter</translation>
     </message>
     <message>
         <source>switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>ausgeschaltet</translation>
     </message>
     <message>
         <source>no room for more jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Platz für weitere Aufträge</translation>
     </message>
     <message>
         <source>partly stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>teilweise angehalten</translation>
     </message>
     <message>
         <source>about to stop</source>
-        <translation type="unfinished"></translation>
+        <translation>hält gleich an</translation>
     </message>
     <message>
         <source>being tested</source>
-        <translation type="unfinished"></translation>
+        <translation>wird geprüft</translation>
     </message>
     <message>
         <source>doesn&apos;t answer</source>
-        <translation type="unfinished"></translation>
+        <translation>antwortet nicht</translation>
     </message>
     <message>
         <source>out of toner</source>
-        <translation type="unfinished"></translation>
+        <translation>Toner ist leer</translation>
     </message>
     <message>
         <source>toner is low</source>
-        <translation type="unfinished"></translation>
+        <translation>Toner geht zur Neige</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>“%1” must be from %2 to %3 points.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ muss von %2 bis %3 Punkt sein.</translation>
     </message>
     <message>
         <source>“%1” must be from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ muss von %2 bis %3 sein.</translation>
     </message>
     <message>
         <source>“%1” has a character that can&apos;t be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat ein Zeichen, das nicht gedruckt werden kann.</translation>
     </message>
     <message>
         <source>“%1” takes digits only.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nimmt nur Ziffern an.</translation>
     </message>
     <message>
         <source>“%1” is too long: at most %2 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist zu lang: höchstens %2 Zeichen.</translation>
     </message>
     <message>
         <source>“%1” is too long: at most %2 characters, of which letters other than A to Z take several.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist zu lang: höchstens %2 Zeichen, wobei andere Buchstaben als A bis Z mehrere brauchen.</translation>
     </message>
     <message>
         <source>“%1” is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ fehlt.</translation>
     </message>
     <message>
         <source>“%1” is too short: at least %2 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist zu kurz: mindestens %2 Zeichen.</translation>
     </message>
     <message>
         <source>“%1” must be a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ muss eine Zahl sein.</translation>
     </message>
     <message>
         <source>There are %1 more values, which stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt %1 weitere Werte, die bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>Asked when you print</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird beim Drucken erfragt</translation>
     </message>
     <message>
         <source>%1 to %2 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2 Zeichen</translation>
     </message>
     <message>
         <source>at most %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>höchstens %1 Zeichen</translation>
     </message>
     <message>
         <source>from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>von %1 bis %2</translation>
     </message>
     <message>
         <source>“%1” must be a number %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ muss eine Zahl %2 sein.</translation>
     </message>
     <message>
         <source>“%1” can&apos;t have braces in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ darf keine geschweiften Klammern enthalten.</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat</translation>
     </message>
     <message>
         <source>Portrait, upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat, auf dem Kopf</translation>
     </message>
     <message>
         <source>Landscape, upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat, auf dem Kopf</translation>
     </message>
     <message>
         <source>This printer doesn&apos;t offer to print on both sides.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Drucker bietet keinen Druck auf beiden Seiten an.</translation>
     </message>
     <message>
         <source>This printer doesn&apos;t offer a choice of paper sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Drucker bietet keine Papiergrößen zur Wahl an.</translation>
     </message>
     <message>
         <source>This printer doesn&apos;t offer a choice of paper sources.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Drucker bietet keine Papierquellen zur Wahl an.</translation>
     </message>
     <message>
         <source>This printer doesn&apos;t offer a choice of paper types.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Drucker bietet keine Papierarten zur Wahl an.</translation>
     </message>
     <message>
         <source>A file has the whole document in it, once and as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei hat das ganze Dokument in sich, einmal und so, wie es ist.</translation>
     </message>
     <message>
         <source>Set this among the printer&apos;s own options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellen Sie das bei den eigenen Optionen des Druckers ein.</translation>
     </message>
     <message>
         <source>There is only one copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nur ein Exemplar.</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Seiten</translation>
     </message>
     <message>
         <source>As in the document</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie im Dokument</translation>
     </message>
     <message>
         <source>%1: “%2” can&apos;t be used with this printer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: „%2“ kann mit diesem Drucker nicht benutzt werden</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>inch</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoll</translation>
     </message>
     <message>
         <source>pt</source>
-        <translation type="unfinished"></translation>
+        <translation>pt</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
     <message>
         <source>from %1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>von %1 bis %2 %3</translation>
     </message>
     <message>
         <source>“%1” can&apos;t stand there. Type pages like 1-3,5,9-.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann da nicht stehen. Schreiben Sie Seiten wie 1-3,5,9-.</translation>
     </message>
     <message>
         <source>“%1”: pages count from 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: Seiten zählen ab 1.</translation>
     </message>
     <message>
         <source>“%1”: the document has only one page.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: Das Dokument hat nur eine Seite.</translation>
     </message>
     <message>
         <source>“%1”: the document has only %2 pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: Das Dokument hat nur %2 Seiten.</translation>
     </message>
     <message>
         <source>“%1” is too great for a page.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist zu groß für eine Seite.</translation>
     </message>
     <message>
         <source>“%1” ends before it begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ endet, bevor es beginnt.</translation>
     </message>
     <message>
         <source>These are more than %1 ranges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das sind mehr als %1 Bereiche.</translation>
     </message>
     <message>
         <source>Type the pages to print, such as 1-3,5,9-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben Sie die Seiten, die gedruckt werden sollen, etwa 1-3,5,9-.</translation>
     </message>
     <message>
         <source>“%1” isn&apos;t a page. Type pages like 1-3,5,9-.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Seite. Schreiben Sie Seiten wie 1-3,5,9-.</translation>
     </message>
     <message>
         <source>A page is missing before a comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor einem Komma fehlt eine Seite.</translation>
     </message>
     <message>
         <source>A page is missing at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ende fehlt eine Seite.</translation>
     </message>
     <message>
         <source>Password for This Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort für diesen Auftrag</translation>
     </message>
     <message>
         <source>It isn&apos;t kept, and goes with this job only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nicht aufbewahrt und gilt nur für diesen Auftrag.</translation>
     </message>
     <message>
         <source>%1, %2:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2:</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drucken</translation>
     </message>
     <message>
         <source>%1 pt</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pt</translation>
     </message>
     <message>
         <source>Image options</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildoptionen</translation>
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemplare</translation>
     </message>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortieren</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>Pages per side</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten pro Blattseite</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>not sent</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht gesendet</translation>
     </message>
 </context>
 <context>
     <name>host::CommonSettings</name>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>&amp;All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Seiten</translation>
     </message>
     <message>
         <source>Page&amp;s:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seiten:</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu druckende Seiten</translation>
     </message>
     <message>
         <source>1-3,5,9-</source>
-        <translation type="unfinished"></translation>
+        <translation>1-3,5,9-</translation>
     </message>
     <message>
         <source>Range:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich:</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemplare</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>Pages per side</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten pro Blattseite</translation>
     </message>
     <message>
         <source>Two-sided</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweiseitig</translation>
     </message>
     <message>
         <source>Paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Papiergröße</translation>
     </message>
     <message>
         <source>Paper source</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierquelle</translation>
     </message>
     <message>
         <source>Paper type</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierart</translation>
     </message>
     <message>
         <source>Co&amp;llate</source>
-        <translation type="unfinished"></translation>
+        <translation>So&amp;rtieren</translation>
     </message>
     <message>
         <source>Choose a printer first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst einen Drucker.</translation>
     </message>
     <message>
         <source>Prints each copy whole before the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckt jedes Exemplar ganz vor dem nächsten.</translation>
     </message>
     <message>
         <source>Pages and ranges, parted by commas, such as 1-3,5,9-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten und Bereiche, durch Kommas getrennt, etwa 1-3,5,9-.</translation>
     </message>
     <message>
         <source>not offered</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht angeboten</translation>
     </message>
     <message>
         <source>Copies must be a number from 1 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemplare muss eine Zahl von 1 bis %1 sein.</translation>
     </message>
 </context>
 <context>
     <name>host::ConflictLine</name>
     <message>
         <source>Resol&amp;ve…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beheben…</translation>
     </message>
     <message>
         <source>Can&apos;t be printed together: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kann nicht zusammen gedruckt werden: %1</translation>
     </message>
     <message numerus="yes">
         <source>Can&apos;t be printed together: %1, and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Kann nicht zusammen gedruckt werden: %1, und %n weiteres</numerusform>
+            <numerusform>Kann nicht zusammen gedruckt werden: %1, und %n weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -927,466 +927,473 @@
     <name>host::JobPage</name>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abb&amp;rechen</translation>
     </message>
     <message>
         <source>Cancel &amp;Job</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auftrag abbrechen</translation>
     </message>
     <message>
         <source>Cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird abgebrochen…</translation>
     </message>
     <message>
         <source>Sending “%1” to %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird an %2 gesendet…</translation>
     </message>
     <message>
         <source>The job %1 was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Auftrag %1 wurde gesendet.</translation>
     </message>
     <message>
         <source>Waiting to be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet auf den Druck.</translation>
     </message>
     <message>
         <source>Held until somebody releases it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgehalten, bis ihn jemand freigibt.</translation>
     </message>
     <message numerus="yes">
         <source>Printing: %n page(s) so far.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Wird gedruckt: bisher eine Seite.</numerusform>
+            <numerusform>Wird gedruckt: bisher %n Seiten.</numerusform>
         </translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gedruckt.</translation>
     </message>
     <message>
         <source>Stopped: the printer can&apos;t go on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten: Der Drucker kann nicht weitermachen.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen.</translation>
     </message>
     <message>
         <source>The printer gave the job up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker hat den Auftrag aufgegeben.</translation>
     </message>
     <message>
         <source>Printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedruckt.</translation>
     </message>
     <message>
         <source>Writing “%1”…</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird geschrieben…</translation>
     </message>
     <message>
         <source>The file was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wurde geschrieben.</translation>
     </message>
 </context>
 <context>
     <name>host::PresetBar</name>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voreinstellung:</translation>
     </message>
     <message>
         <source>Mana&amp;ge</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;walten</translation>
     </message>
     <message>
         <source>Manage presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen verwalten</translation>
     </message>
     <message>
         <source>Printer&apos;s defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgaben des Druckers</translation>
     </message>
     <message>
         <source>Last used settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt benutzte Einstellungen</translation>
     </message>
     <message>
         <source>%1 (can&apos;t be used)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nicht benutzbar)</translation>
     </message>
     <message>
         <source>%1 (set up outside of this window)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (außerhalb dieses Fensters eingerichtet)</translation>
     </message>
     <message>
         <source>%1 (changed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (geändert)</translation>
     </message>
     <message>
         <source>The settings differ from what was chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen weichen von dem ab, was hier gewählt wurde.</translation>
     </message>
     <message>
         <source>The settings stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>“%1” can&apos;t be used, and the settings stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht benutzt werden, und die Einstellungen bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>Not all of “%1” could be used:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alles von „%1“ war zu gebrauchen:</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>U&amp;mbenennen…</translation>
     </message>
     <message>
         <source>&amp;Delete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen…</translation>
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importieren…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren…</translation>
     </message>
     <message>
         <source>There is a preset “%1” already. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon eine Voreinstellung „%1“. Ersetzen?</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ersetzen</translation>
     </message>
     <message>
         <source>Passwords aren&apos;t kept in presets. They have to be entered again each time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwörter werden in Voreinstellungen nicht aufbewahrt. Sie müssen jedes Mal neu eingegeben werden.</translation>
     </message>
     <message>
         <source>Save Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung speichern</translation>
     </message>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung umbenennen</translation>
     </message>
     <message>
         <source>There is a preset “%1” already. Nothing was renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon eine Voreinstellung „%1“. Es wurde nichts umbenannt.</translation>
     </message>
     <message>
         <source>Delete the preset “%1”? The settings stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellung „%1“ löschen? Die Einstellungen bleiben, wie sie sind.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>“%1” was made for the printer “%2”. What this printer has of it is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde für den Drucker „%2“ angelegt. Was dieser Drucker davon hat, wird benutzt.</translation>
     </message>
     <message>
         <source>Import Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung importieren</translation>
     </message>
     <message>
         <source>Presets (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen (*.json);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Export Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung exportieren</translation>
     </message>
     <message>
         <source>Presets (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen (*.json)</translation>
     </message>
 </context>
 <context>
     <name>host::PreviewView</name>
     <message>
         <source>Preview of the printed sheets. Arrow keys, Page Up and Page Down turn them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau der gedruckten Blätter. Pfeiltasten, Bild auf und Bild ab blättern.</translation>
     </message>
     <message>
         <source>Previous side</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorige Blattseite</translation>
     </message>
     <message>
         <source>Next side</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Blattseite</translation>
     </message>
     <message>
         <source>Sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt</translation>
     </message>
     <message>
         <source>Type the sheet to look at</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie das Blatt ein, das Sie ansehen wollen</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dokument</translation>
     </message>
     <message>
         <source>The preview can&apos;t be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorschau kann nicht gezeichnet werden: %1</translation>
     </message>
     <message>
         <source>Preparing the preview…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorschau wird vorbereitet…</translation>
     </message>
     <message>
         <source>The document has none of the chosen pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument hat keine der gewählten Seiten.</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt %1 von %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, back</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt %1 von %2, Rückseite</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, front</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt %1 von %2, Vorderseite</translation>
     </message>
     <message>
         <source>page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1</translation>
     </message>
     <message>
         <source>pages %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten %1</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>sheet, pages</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>host::PrintDialog</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen…</translation>
     </message>
     <message>
         <source>Open a document</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Dokument öffnen</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersicht</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drucken</translation>
     </message>
     <message>
         <source>Getting the printer&apos;s settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen des Druckers werden geholt…</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dokument</translation>
     </message>
     <message>
         <source>The document can&apos;t be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument kann nicht gedruckt werden.</translation>
     </message>
     <message>
         <source>Document to Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu druckendes Dokument</translation>
     </message>
     <message>
         <source>Documents (*.ps *.eps *.pdf);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumente (*.ps *.eps *.pdf);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Print to File</source>
-        <translation type="unfinished"></translation>
+        <translation>In Datei drucken</translation>
     </message>
     <message>
         <source>PostScript (*.ps)</source>
-        <translation type="unfinished"></translation>
+        <translation>PostScript (*.ps)</translation>
     </message>
     <message>
         <source>The document wasn&apos;t printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument wurde nicht gedruckt.</translation>
     </message>
 </context>
 <context>
     <name>host::ProblemArea</name>
     <message>
         <source>Show &amp;All %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1 &amp;zeigen</translation>
     </message>
 </context>
 <context>
     <name>host::QueueList</name>
     <message>
         <source>Re&amp;try</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut vers&amp;uchen</translation>
     </message>
     <message>
         <source>Find a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Drucker suchen</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker werden gesucht…</translation>
     </message>
     <message>
         <source>No printers found on this server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Server gibt es keine Drucker.</translation>
     </message>
     <message>
         <source>No printer has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Drucker hat diese Wörter.</translation>
     </message>
 </context>
 <context>
     <name>host::QueueModel</name>
     <message>
         <source>No longer on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht mehr auf dem Server</translation>
     </message>
     <message>
         <source>Looking for it…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gesucht…</translation>
     </message>
     <message>
         <source>Default · %1</source>
         <extracomment>the default printer and its state</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Standard · %1</translation>
     </message>
     <message>
         <source>Makes a PostScript file</source>
-        <translation type="unfinished"></translation>
+        <translation>Erzeugt eine PostScript-Datei</translation>
     </message>
     <message>
         <source>with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mit %1</translation>
     </message>
     <message>
         <source> · </source>
-        <translation type="unfinished"></translation>
+        <translation> · </translation>
     </message>
     <message>
         <source>Print to File</source>
-        <translation type="unfinished"></translation>
+        <translation>In Datei drucken</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>host::RememberBox</name>
     <message>
         <source>&amp;Remember these settings for this printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen für diesen Drucker &amp;merken</translation>
     </message>
     <message>
         <source>If not, they hold for this job only. Passwords aren&apos;t remembered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst gelten sie nur für diesen Auftrag. Passwörter werden nicht gemerkt.</translation>
     </message>
 </context>
 <context>
     <name>host::SentView</name>
     <message>
         <source>What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Was gesendet wird</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung</translation>
     </message>
     <message>
         <source>Printer&apos;s default</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe des Druckers</translation>
     </message>
     <message>
         <source>Chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählt</translation>
     </message>
     <message>
         <source>Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesendet</translation>
     </message>
     <message>
         <source>Show &amp;unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch un&amp;geänderte zeigen</translation>
     </message>
     <message>
         <source>Nothing differs from the printer&apos;s defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts weicht von den Vorgaben des Druckers ab.</translation>
     </message>
     <message>
         <source>%1 of %2 settings differ from the printer&apos;s defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Einstellungen weichen von den Vorgaben des Druckers ab.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>Differs from the printer&apos;s default</source>
-        <translation type="unfinished"></translation>
+        <translation>Weicht von der Vorgabe des Druckers ab</translation>
     </message>
 </context>
 <context>
     <name>host::SheetCanvas</name>
     <message>
         <source>Drawing page %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 wird gezeichnet…</translation>
     </message>
 </context>
 <context>
     <name>host::SummaryPage</name>
     <message>
         <source>What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Was gesendet wird</translation>
+    </message>
+</context>
+<context>
+    <name>host::TypedOptions</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
     </message>
 </context>
 </TS>

@@ -5,921 +5,921 @@
     <name>host</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
         </translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> et </translation>
     </message>
     <message>
         <source>Conflicting Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages incompatibles</translation>
     </message>
     <message>
         <source>The printer can&apos;t print these together:</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante ne peut pas combiner :</translation>
     </message>
     <message>
         <source>There is no simple way to put this right. Go back and choose another value for one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de solution simple. Revenez en arrière et choisissez une autre valeur pour l’un d’eux.</translation>
     </message>
     <message>
         <source>This would put it right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ceci résoudrait le problème :</translation>
     </message>
     <message>
         <source>&amp;Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retour</translation>
     </message>
     <message>
         <source>Print &amp;Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer &amp;quand même</translation>
     </message>
     <message>
         <source>&amp;Change and Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier et imprimer</translation>
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>a state and why</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>, </source>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>Not available with %1, and others</source>
-        <translation type="unfinished"></translation>
+        <translation>Non disponible avec %1 et d’autres</translation>
     </message>
     <message>
         <source>Not available with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non disponible avec %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>%1: %2 → %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 → %3</translation>
     </message>
     <message>
         <source>CUPS server %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur CUPS %1</translation>
     </message>
     <message>
         <source>it was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>abandonné</translation>
     </message>
     <message>
         <source>no CUPS server answers there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur CUPS n’y répond : %1</translation>
     </message>
     <message>
         <source>CUPS server %1 sent no whole answer within %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur CUPS %1 n’a pas envoyé de réponse complète en %2 secondes</translation>
     </message>
     <message>
         <source>CUPS server %1 gave no answer within %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur CUPS %1 n’a pas répondu en %2 secondes</translation>
     </message>
     <message>
         <source>CUPS server %1 closed the connection or sent no valid answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur CUPS %1 a fermé la connexion ou envoyé une réponse non valide</translation>
     </message>
     <message>
         <source>CUPS server %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur CUPS %1 : %2</translation>
     </message>
     <message>
         <source>no such queue on CUPS server %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune file de ce nom sur le serveur CUPS %1</translation>
     </message>
     <message>
         <source>has no default queue</source>
-        <translation type="unfinished"></translation>
+        <translation>n’a pas de file par défaut</translation>
     </message>
     <message>
         <source>the queue has no PPD</source>
-        <translation type="unfinished"></translation>
+        <translation>la file n’a pas de PPD</translation>
     </message>
     <message>
         <source>its PPD can&apos;t be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sa PPD ne peut pas être lue : %1</translation>
     </message>
     <message>
         <source>its PPD is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>sa PPD est trop grande</translation>
     </message>
     <message>
         <source>the job was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>la tâche a été annulée</translation>
     </message>
     <message>
         <source>job %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tâche %1</translation>
     </message>
     <message>
         <source>Print to File</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer dans un fichier</translation>
     </message>
     <message>
         <source>Authentication Needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Authentification requise</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom :</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mot de passe :</translation>
     </message>
     <message>
         <source>%1 didn&apos;t finish within %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas fini en %2 secondes</translation>
     </message>
     <message>
         <source>given up</source>
-        <translation type="unfinished"></translation>
+        <translation>abandonné</translation>
     </message>
     <message>
         <source>%1 wrote too much</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a trop écrit</translation>
     </message>
     <message>
         <source>%1 can&apos;t convert it to %2%3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas le convertir en %2%3</translation>
     </message>
     <message>
         <source>is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>est vide</translation>
     </message>
     <message>
         <source>is neither PostScript nor PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>n’est ni du PostScript ni un PDF</translation>
     </message>
     <message>
         <source>a PDF needs pdftops or gs, and neither is installed</source>
-        <translation type="unfinished"></translation>
+        <translation>un PDF nécessite pdftops ou gs, et aucun n’est installé</translation>
     </message>
     <message>
         <source>PostScript needs gs, which isn&apos;t installed</source>
-        <translation type="unfinished"></translation>
+        <translation>PostScript nécessite gs, qui n’est pas installé</translation>
     </message>
     <message>
         <source>can&apos;t be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ne peut pas être écrit : %1</translation>
     </message>
     <message>
         <source>a value of one&apos;s own (“%1”) is no longer taken</source>
-        <translation type="unfinished"></translation>
+        <translation>une valeur personnalisée (« %1 ») n’est plus acceptée</translation>
     </message>
     <message>
         <source>“%1” is outside of what this printer takes</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est hors de ce que cette imprimante accepte</translation>
     </message>
     <message>
         <source>“%1” is no longer there</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’existe plus</translation>
     </message>
     <message>
         <source>“%1” is no longer a setting of this printer; the preset has “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est plus un réglage de cette imprimante ; le préréglage a « %2 »</translation>
     </message>
     <message>
         <source>%1: is locked and stays “%2”</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : est verrouillé et reste « %2 »</translation>
     </message>
     <message>
         <source>passwords aren&apos;t kept in presets; enter it again</source>
-        <translation type="unfinished"></translation>
+        <translation>les mots de passe ne sont pas conservés dans les préréglages ; saisissez-le de nouveau</translation>
     </message>
     <message>
         <source>Not possible: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible : %1.</translation>
     </message>
     <message>
         <source>the name is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom est vide</translation>
     </message>
     <message>
         <source>the name begins or ends with a blank</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom commence ou finit par une espace</translation>
     </message>
     <message>
         <source>the name has more than %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom a plus de %1 caractères</translation>
     </message>
     <message>
         <source>the name has a character that can&apos;t be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le nom a un caractère qui ne peut pas être affiché</translation>
     </message>
     <message>
         <source>can&apos;t be made</source>
-        <translation type="unfinished"></translation>
+        <translation>ne peut pas être créé</translation>
     </message>
     <message>
         <source>is in use by another program</source>
-        <translation type="unfinished"></translation>
+        <translation>est utilisé par un autre programme</translation>
     </message>
     <message>
         <source>“%1” isn&apos;t what it should be</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas ce qu’il devrait être</translation>
     </message>
     <message>
         <source>“%1” has a character that is none</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a un caractère qui n’en est pas un</translation>
     </message>
     <message>
         <source>“%1” has an empty key</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a une clé vide</translation>
     </message>
     <message>
         <source>is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>dépasse %1 Mo</translation>
     </message>
     <message>
         <source>isn&apos;t a preset: line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>n’est pas un préréglage : ligne %1 : %2</translation>
     </message>
     <message>
         <source>isn&apos;t a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>n’est pas un préréglage</translation>
     </message>
     <message>
         <source>has a key twice</source>
-        <translation type="unfinished"></translation>
+        <translation>a deux fois la même clé</translation>
     </message>
     <message>
         <source>was made by a newer version of this program (format %1); it is left as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>a été créé par une version plus récente de ce programme (format %1) ; il reste tel quel</translation>
     </message>
     <message>
         <source>has the unknown key “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>a la clé inconnue « %1 »</translation>
     </message>
     <message>
         <source>can&apos;t be removed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ne peut pas être supprimé : %1</translation>
     </message>
     <message>
         <source>“%1” has no preset of this name</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’a pas de préréglage de ce nom</translation>
     </message>
     <message>
         <source>is too large for a preset</source>
-        <translation type="unfinished"></translation>
+        <translation>est trop grand pour un préréglage</translation>
     </message>
     <message>
         <source>The last used settings of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Les derniers réglages utilisés de « %1 »</translation>
     </message>
     <message>
         <source>the document is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>le document est endommagé.</translation>
     </message>
     <message>
         <source>the document is protected by a password.</source>
-        <translation type="unfinished"></translation>
+        <translation>le document est protégé par un mot de passe.</translation>
     </message>
     <message>
         <source>the document has no pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>le document n’a pas de pages.</translation>
     </message>
     <message>
         <source>the document is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>le document est trop grand.</translation>
     </message>
     <message>
         <source>Page %1 is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page %1 est endommagée.</translation>
     </message>
     <message>
         <source>Page %1 has a size that can&apos;t be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page %1 a une taille qui ne peut pas être dessinée.</translation>
     </message>
     <message>
         <source>Page %1 takes too long to draw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dessin de la page %1 prend trop de temps.</translation>
     </message>
     <message>
         <source>Page %1 can&apos;t be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page %1 ne peut pas être dessinée.</translation>
     </message>
     <message>
         <source>is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>est trop grand</translation>
     </message>
     <message>
         <source>%1: line %2 isn&apos;t UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : la ligne %2 n’est pas en UTF-8</translation>
     </message>
     <message>
         <source>State unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>État inconnu</translation>
     </message>
     <message>
         <source>Idle</source>
-        <translation type="unfinished"></translation>
+        <translation>Prête</translation>
     </message>
     <message>
         <source>Printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression en cours</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>En pause</translation>
     </message>
     <message>
         <source>%1, takes no jobs</source>
         <extracomment>a state, such as &quot;Idle&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, n’accepte pas de tâches</translation>
     </message>
     <message>
         <source>The printer takes no jobs at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante n’accepte pas de tâches pour le moment.</translation>
     </message>
     <message>
         <source>The printer is paused. Jobs wait until it goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante est en pause. Les tâches attendent qu’elle reprenne.</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <extracomment>a sentence and why</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>non connectée</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>connexion en cours</translation>
     </message>
     <message>
         <source>answers in a wrong way</source>
-        <translation type="unfinished"></translation>
+        <translation>répond de façon incorrecte</translation>
     </message>
     <message>
         <source>driver isn&apos;t safe to run</source>
-        <translation type="unfinished"></translation>
+        <translation>pilote non sûr</translation>
     </message>
     <message>
         <source>driver is incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>pilote incomplet</translation>
     </message>
     <message>
         <source>certificate isn&apos;t valid</source>
-        <translation type="unfinished"></translation>
+        <translation>certificat non valide</translation>
     </message>
     <message>
         <source>job is held</source>
-        <translation type="unfinished"></translation>
+        <translation>tâche retenue</translation>
     </message>
     <message>
         <source>job has stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>tâche arrêtée</translation>
     </message>
     <message>
         <source>job was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>tâche annulée</translation>
     </message>
     <message>
         <source>job was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>tâche abandonnée</translation>
     </message>
     <message>
         <source>account is needed</source>
-        <translation type="unfinished"></translation>
+        <translation>compte requis</translation>
     </message>
     <message>
         <source>account&apos;s limit is reached</source>
-        <translation type="unfinished"></translation>
+        <translation>limite du compte atteinte</translation>
     </message>
     <message>
         <source>set up anew</source>
-        <translation type="unfinished"></translation>
+        <translation>reconfigurée</translation>
     </message>
     <message>
         <source>cover is open</source>
-        <translation type="unfinished"></translation>
+        <translation>capot ouvert</translation>
     </message>
     <message>
         <source>switched off for jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>désactivée pour les tâches</translation>
     </message>
     <message>
         <source>out of developer</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de révélateur</translation>
     </message>
     <message>
         <source>developer is low</source>
-        <translation type="unfinished"></translation>
+        <translation>révélateur bientôt épuisé</translation>
     </message>
     <message>
         <source>door is open</source>
-        <translation type="unfinished"></translation>
+        <translation>porte ouverte</translation>
     </message>
     <message>
         <source>fuser is too hot</source>
-        <translation type="unfinished"></translation>
+        <translation>unité de fusion trop chaude</translation>
     </message>
     <message>
         <source>fuser is too cold</source>
-        <translation type="unfinished"></translation>
+        <translation>unité de fusion trop froide</translation>
     </message>
     <message>
         <source>asleep</source>
-        <translation type="unfinished"></translation>
+        <translation>en veille</translation>
     </message>
     <message>
         <source>new jobs are held</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelles tâches retenues</translation>
     </message>
     <message>
         <source>shows where it stands</source>
-        <translation type="unfinished"></translation>
+        <translation>se signale</translation>
     </message>
     <message>
         <source>tray is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>bac absent</translation>
     </message>
     <message>
         <source>a lock is open</source>
-        <translation type="unfinished"></translation>
+        <translation>un verrou est ouvert</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>mémoire insuffisante</translation>
     </message>
     <message>
         <source>out of ink</source>
-        <translation type="unfinished"></translation>
+        <translation>plus d’encre</translation>
     </message>
     <message>
         <source>ink is low</source>
-        <translation type="unfinished"></translation>
+        <translation>encre bientôt épuisée</translation>
     </message>
     <message>
         <source>ink is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>encre absente</translation>
     </message>
     <message>
         <source>waste box is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>collecteur presque plein</translation>
     </message>
     <message>
         <source>waste box is full</source>
-        <translation type="unfinished"></translation>
+        <translation>collecteur plein</translation>
     </message>
     <message>
         <source>out of paper</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de papier</translation>
     </message>
     <message>
         <source>paper jam</source>
-        <translation type="unfinished"></translation>
+        <translation>bourrage papier</translation>
     </message>
     <message>
         <source>paper is low</source>
-        <translation type="unfinished"></translation>
+        <translation>papier bientôt épuisé</translation>
     </message>
     <message>
         <source>needs other paper</source>
-        <translation type="unfinished"></translation>
+        <translation>autre papier requis</translation>
     </message>
     <message>
         <source>about to pause</source>
-        <translation type="unfinished"></translation>
+        <translation>va se mettre en pause</translation>
     </message>
     <message>
         <source>drum is used up</source>
-        <translation type="unfinished"></translation>
+        <translation>tambour usé</translation>
     </message>
     <message>
         <source>drum is nearly used up</source>
-        <translation type="unfinished"></translation>
+        <translation>tambour presque usé</translation>
     </message>
     <message>
         <source>needs attention</source>
-        <translation type="unfinished"></translation>
+        <translation>intervention requise</translation>
     </message>
     <message>
         <source>output tray is almost full</source>
-        <translation type="unfinished"></translation>
+        <translation>bac de sortie presque plein</translation>
     </message>
     <message>
         <source>output tray is full</source>
-        <translation type="unfinished"></translation>
+        <translation>bac de sortie plein</translation>
     </message>
     <message>
         <source>output tray is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>bac de sortie absent</translation>
     </message>
     <message>
         <source>switching off</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt en cours</translation>
     </message>
     <message>
         <source>about to go on</source>
-        <translation type="unfinished"></translation>
+        <translation>va reprendre</translation>
     </message>
     <message>
         <source>switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>éteinte</translation>
     </message>
     <message>
         <source>no room for more jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de place pour d’autres tâches</translation>
     </message>
     <message>
         <source>partly stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>en partie arrêtée</translation>
     </message>
     <message>
         <source>about to stop</source>
-        <translation type="unfinished"></translation>
+        <translation>va s’arrêter</translation>
     </message>
     <message>
         <source>being tested</source>
-        <translation type="unfinished"></translation>
+        <translation>test en cours</translation>
     </message>
     <message>
         <source>doesn&apos;t answer</source>
-        <translation type="unfinished"></translation>
+        <translation>ne répond pas</translation>
     </message>
     <message>
         <source>out of toner</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de toner</translation>
     </message>
     <message>
         <source>toner is low</source>
-        <translation type="unfinished"></translation>
+        <translation>toner bientôt épuisé</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur</translation>
     </message>
     <message>
         <source>“%1” must be from %2 to %3 points.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » doit être compris entre %2 et %3 points.</translation>
     </message>
     <message>
         <source>“%1” must be from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » doit être compris entre %2 et %3.</translation>
     </message>
     <message>
         <source>“%1” has a character that can&apos;t be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a un caractère qui ne peut pas être imprimé.</translation>
     </message>
     <message>
         <source>“%1” takes digits only.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’accepte que des chiffres.</translation>
     </message>
     <message>
         <source>“%1” is too long: at most %2 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est trop long : %2 caractères au plus.</translation>
     </message>
     <message>
         <source>“%1” is too long: at most %2 characters, of which letters other than A to Z take several.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est trop long : %2 caractères au plus, les lettres autres que A à Z en prenant plusieurs.</translation>
     </message>
     <message>
         <source>“%1” is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » manque.</translation>
     </message>
     <message>
         <source>“%1” is too short: at least %2 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est trop court : %2 caractères au moins.</translation>
     </message>
     <message>
         <source>“%1” must be a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » doit être un nombre.</translation>
     </message>
     <message>
         <source>There are %1 more values, which stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a %1 autres valeurs, qui restent telles quelles.</translation>
     </message>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 :</translation>
     </message>
     <message>
         <source>Asked when you print</source>
-        <translation type="unfinished"></translation>
+        <translation>Demandé à l’impression</translation>
     </message>
     <message>
         <source>%1 to %2 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>de %1 à %2 caractères</translation>
     </message>
     <message>
         <source>at most %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 caractères au plus</translation>
     </message>
     <message>
         <source>from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>de %1 à %2</translation>
     </message>
     <message>
         <source>“%1” must be a number %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » doit être un nombre %2.</translation>
     </message>
     <message>
         <source>“%1” can&apos;t have braces in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas contenir d’accolades.</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Portrait</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage</translation>
     </message>
     <message>
         <source>Portrait, upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Portrait, tête en bas</translation>
     </message>
     <message>
         <source>Landscape, upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Paysage, tête en bas</translation>
     </message>
     <message>
         <source>This printer doesn&apos;t offer to print on both sides.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante ne propose pas l’impression recto verso.</translation>
     </message>
     <message>
         <source>This printer doesn&apos;t offer a choice of paper sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante ne propose pas de choix de formats de papier.</translation>
     </message>
     <message>
         <source>This printer doesn&apos;t offer a choice of paper sources.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante ne propose pas de choix de sources de papier.</translation>
     </message>
     <message>
         <source>This printer doesn&apos;t offer a choice of paper types.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette imprimante ne propose pas de choix de types de papier.</translation>
     </message>
     <message>
         <source>A file has the whole document in it, once and as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier contient tout le document, une fois et tel quel.</translation>
     </message>
     <message>
         <source>Set this among the printer&apos;s own options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglez ceci parmi les options propres à l’imprimante.</translation>
     </message>
     <message>
         <source>There is only one copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a qu’une copie.</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les pages</translation>
     </message>
     <message>
         <source>As in the document</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme dans le document</translation>
     </message>
     <message>
         <source>%1: “%2” can&apos;t be used with this printer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : « %2 » ne peut pas être utilisé avec cette imprimante</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>inch</source>
-        <translation type="unfinished"></translation>
+        <translation>pouces</translation>
     </message>
     <message>
         <source>pt</source>
-        <translation type="unfinished"></translation>
+        <translation>pt</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité</translation>
     </message>
     <message>
         <source>from %1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>de %1 à %2 %3</translation>
     </message>
     <message>
         <source>“%1” can&apos;t stand there. Type pages like 1-3,5,9-.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas se trouver là. Saisissez des pages comme 1-3,5,9-.</translation>
     </message>
     <message>
         <source>“%1”: pages count from 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » : les pages commencent à 1.</translation>
     </message>
     <message>
         <source>“%1”: the document has only one page.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » : le document n’a qu’une page.</translation>
     </message>
     <message>
         <source>“%1”: the document has only %2 pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » : le document n’a que %2 pages.</translation>
     </message>
     <message>
         <source>“%1” is too great for a page.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est trop grand pour une page.</translation>
     </message>
     <message>
         <source>“%1” ends before it begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » finit avant de commencer.</translation>
     </message>
     <message>
         <source>These are more than %1 ranges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a plus de %1 plages.</translation>
     </message>
     <message>
         <source>Type the pages to print, such as 1-3,5,9-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez les pages à imprimer, par exemple 1-3,5,9-.</translation>
     </message>
     <message>
         <source>“%1” isn&apos;t a page. Type pages like 1-3,5,9-.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas une page. Saisissez des pages comme 1-3,5,9-.</translation>
     </message>
     <message>
         <source>A page is missing before a comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque une page avant une virgule.</translation>
     </message>
     <message>
         <source>A page is missing at the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque une page à la fin.</translation>
     </message>
     <message>
         <source>Password for This Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe pour cette tâche</translation>
     </message>
     <message>
         <source>It isn&apos;t kept, and goes with this job only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’est pas conservé et ne vaut que pour cette tâche.</translation>
     </message>
     <message>
         <source>%1, %2:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 :</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimer</translation>
     </message>
     <message>
         <source>%1 pt</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pt</translation>
     </message>
     <message>
         <source>Image options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options d’image</translation>
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Tâche</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Copies</translation>
     </message>
     <message>
         <source>Collate</source>
-        <translation type="unfinished"></translation>
+        <translation>Assembler</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientation</translation>
     </message>
     <message>
         <source>Pages per side</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages par face</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres</translation>
     </message>
     <message>
         <source>not sent</source>
-        <translation type="unfinished"></translation>
+        <translation>non envoyé</translation>
     </message>
 </context>
 <context>
     <name>host::CommonSettings</name>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 :</translation>
     </message>
     <message>
         <source>&amp;All pages</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toutes les pages</translation>
     </message>
     <message>
         <source>Page&amp;s:</source>
-        <translation type="unfinished"></translation>
+        <translation>Page&amp;s :</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages à imprimer</translation>
     </message>
     <message>
         <source>1-3,5,9-</source>
-        <translation type="unfinished"></translation>
+        <translation>1-3,5,9-</translation>
     </message>
     <message>
         <source>Range:</source>
-        <translation type="unfinished"></translation>
+        <translation>Plage :</translation>
     </message>
     <message>
         <source>Copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Copies</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientation</translation>
     </message>
     <message>
         <source>Pages per side</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages par face</translation>
     </message>
     <message>
         <source>Two-sided</source>
-        <translation type="unfinished"></translation>
+        <translation>Recto verso</translation>
     </message>
     <message>
         <source>Paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de papier</translation>
     </message>
     <message>
         <source>Paper source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source du papier</translation>
     </message>
     <message>
         <source>Paper type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de papier</translation>
     </message>
     <message>
         <source>Co&amp;llate</source>
-        <translation type="unfinished"></translation>
+        <translation>Assem&amp;bler</translation>
     </message>
     <message>
         <source>Choose a printer first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord une imprimante.</translation>
     </message>
     <message>
         <source>Prints each copy whole before the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprime chaque copie en entier avant la suivante.</translation>
     </message>
     <message>
         <source>Pages and ranges, parted by commas, such as 1-3,5,9-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages et plages, séparées par des virgules, par exemple 1-3,5,9-.</translation>
     </message>
     <message>
         <source>not offered</source>
-        <translation type="unfinished"></translation>
+        <translation>non proposé</translation>
     </message>
     <message>
         <source>Copies must be a number from 1 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de copies doit être compris entre 1 et %1.</translation>
     </message>
 </context>
 <context>
     <name>host::ConflictLine</name>
     <message>
         <source>Resol&amp;ve…</source>
-        <translation type="unfinished"></translation>
+        <translation>Résou&amp;dre…</translation>
     </message>
     <message>
         <source>Can&apos;t be printed together: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne peuvent pas être combinés : %1</translation>
     </message>
     <message numerus="yes">
         <source>Can&apos;t be printed together: %1, and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ne peuvent pas être combinés : %1, et %n autre</numerusform>
+            <numerusform>Ne peuvent pas être combinés : %1, et %n autres</numerusform>
         </translation>
     </message>
 </context>
@@ -927,466 +927,473 @@
     <name>host::JobPage</name>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>Cancel &amp;Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la &amp;tâche</translation>
     </message>
     <message>
         <source>Cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulation…</translation>
     </message>
     <message>
         <source>Sending “%1” to %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoi de « %1 » à %2…</translation>
     </message>
     <message>
         <source>The job %1 was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche %1 a été envoyée.</translation>
     </message>
     <message>
         <source>Waiting to be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente d’impression.</translation>
     </message>
     <message>
         <source>Held until somebody releases it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retenue jusqu’à ce que quelqu’un la libère.</translation>
     </message>
     <message numerus="yes">
         <source>Printing: %n page(s) so far.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Impression en cours : %n page imprimée.</numerusform>
+            <numerusform>Impression en cours : %n pages imprimées.</numerusform>
         </translation>
     </message>
     <message>
         <source>Printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression en cours.</translation>
     </message>
     <message>
         <source>Stopped: the printer can&apos;t go on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêtée : l’imprimante ne peut pas continuer.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulée.</translation>
     </message>
     <message>
         <source>The printer gave the job up.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante a abandonné la tâche.</translation>
     </message>
     <message>
         <source>Printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimée.</translation>
     </message>
     <message>
         <source>Writing “%1”…</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture de « %1 »…</translation>
     </message>
     <message>
         <source>The file was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier a été écrit.</translation>
     </message>
 </context>
 <context>
     <name>host::PresetBar</name>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pr&amp;éréglage :</translation>
     </message>
     <message>
         <source>Mana&amp;ge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gérer</translation>
     </message>
     <message>
         <source>Manage presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Gérer les préréglages</translation>
     </message>
     <message>
         <source>Printer&apos;s defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages par défaut de l’imprimante</translation>
     </message>
     <message>
         <source>Last used settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Derniers réglages utilisés</translation>
     </message>
     <message>
         <source>%1 (can&apos;t be used)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (inutilisable)</translation>
     </message>
     <message>
         <source>%1 (set up outside of this window)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (défini hors de cette fenêtre)</translation>
     </message>
     <message>
         <source>%1 (changed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (modifié)</translation>
     </message>
     <message>
         <source>The settings differ from what was chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages diffèrent de ce qui a été choisi ici.</translation>
     </message>
     <message>
         <source>The settings stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages restent tels quels.</translation>
     </message>
     <message>
         <source>“%1” can&apos;t be used, and the settings stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est inutilisable, et les réglages restent tels quels.</translation>
     </message>
     <message>
         <source>Not all of “%1” could be used:</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie de « %1 » n’a pas pu être utilisée :</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer &amp;sous…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renommer…</translation>
     </message>
     <message>
         <source>&amp;Delete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer…</translation>
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xporter…</translation>
     </message>
     <message>
         <source>There is a preset “%1” already. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà un préréglage « %1 ». Le remplacer ?</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remplacer</translation>
     </message>
     <message>
         <source>Passwords aren&apos;t kept in presets. They have to be entered again each time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les mots de passe ne sont pas conservés dans les préréglages. Il faut les saisir à chaque fois.</translation>
     </message>
     <message>
         <source>Save Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le préréglage</translation>
     </message>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer le préréglage</translation>
     </message>
     <message>
         <source>There is a preset “%1” already. Nothing was renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà un préréglage « %1 ». Rien n’a été renommé.</translation>
     </message>
     <message>
         <source>Delete the preset “%1”? The settings stay as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le préréglage « %1 » ? Les réglages restent tels quels.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>“%1” was made for the printer “%2”. What this printer has of it is used.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a été créé pour l’imprimante « %2 ». Ce que cette imprimante en connaît est utilisé.</translation>
     </message>
     <message>
         <source>Import Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer un préréglage</translation>
     </message>
     <message>
         <source>Presets (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages (*.json);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Export Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter le préréglage</translation>
     </message>
     <message>
         <source>Presets (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages (*.json)</translation>
     </message>
 </context>
 <context>
     <name>host::PreviewView</name>
     <message>
         <source>Preview of the printed sheets. Arrow keys, Page Up and Page Down turn them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu des feuilles imprimées. Les flèches, Page préc. et Page suiv. les tournent.</translation>
     </message>
     <message>
         <source>Previous side</source>
-        <translation type="unfinished"></translation>
+        <translation>Face précédente</translation>
     </message>
     <message>
         <source>Next side</source>
-        <translation type="unfinished"></translation>
+        <translation>Face suivante</translation>
     </message>
     <message>
         <source>Sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille</translation>
     </message>
     <message>
         <source>Type the sheet to look at</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez la feuille à regarder</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun document</translation>
     </message>
     <message>
         <source>The preview can&apos;t be drawn: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aperçu ne peut pas être dessiné : %1</translation>
     </message>
     <message>
         <source>Preparing the preview…</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparation de l’aperçu…</translation>
     </message>
     <message>
         <source>The document has none of the chosen pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n’a aucune des pages choisies.</translation>
     </message>
     <message>
         <source>Sheet %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille %1 sur %2</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, back</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille %1 sur %2, verso</translation>
     </message>
     <message>
         <source>Sheet %1 of %2, front</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille %1 sur %2, recto</translation>
     </message>
     <message>
         <source>page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>page %1</translation>
     </message>
     <message>
         <source>pages %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pages %1</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>sheet, pages</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>host::PrintDialog</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir…</translation>
     </message>
     <message>
         <source>Open a document</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un document</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimer</translation>
     </message>
     <message>
         <source>Getting the printer&apos;s settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des réglages de l’imprimante…</translation>
     </message>
     <message>
         <source>No document</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun document</translation>
     </message>
     <message>
         <source>The document can&apos;t be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document ne peut pas être imprimé.</translation>
     </message>
     <message>
         <source>Document to Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Document à imprimer</translation>
     </message>
     <message>
         <source>Documents (*.ps *.eps *.pdf);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents (*.ps *.eps *.pdf);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Print to File</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer dans un fichier</translation>
     </message>
     <message>
         <source>PostScript (*.ps)</source>
-        <translation type="unfinished"></translation>
+        <translation>PostScript (*.ps)</translation>
     </message>
     <message>
         <source>The document wasn&apos;t printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n’a pas été imprimé.</translation>
     </message>
 </context>
 <context>
     <name>host::ProblemArea</name>
     <message>
         <source>Show &amp;All %1</source>
-        <translation type="unfinished"></translation>
+        <translation>To&amp;ut afficher (%1)</translation>
     </message>
 </context>
 <context>
     <name>host::QueueList</name>
     <message>
         <source>Re&amp;try</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Réessayer</translation>
     </message>
     <message>
         <source>Find a printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher une imprimante</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimantes</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche d’imprimantes…</translation>
     </message>
     <message>
         <source>No printers found on this server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune imprimante sur ce serveur.</translation>
     </message>
     <message>
         <source>No printer has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune imprimante n’a ces mots.</translation>
     </message>
 </context>
 <context>
     <name>host::QueueModel</name>
     <message>
         <source>No longer on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>N’est plus sur le serveur</translation>
     </message>
     <message>
         <source>Looking for it…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche…</translation>
     </message>
     <message>
         <source>Default · %1</source>
         <extracomment>the default printer and its state</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut · %1</translation>
     </message>
     <message>
         <source>Makes a PostScript file</source>
-        <translation type="unfinished"></translation>
+        <translation>Crée un fichier PostScript</translation>
     </message>
     <message>
         <source>with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>avec %1</translation>
     </message>
     <message>
         <source> · </source>
-        <translation type="unfinished"></translation>
+        <translation> · </translation>
     </message>
     <message>
         <source>Print to File</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer dans un fichier</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>host::RememberBox</name>
     <message>
         <source>&amp;Remember these settings for this printer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mémoriser ces réglages pour cette imprimante</translation>
     </message>
     <message>
         <source>If not, they hold for this job only. Passwords aren&apos;t remembered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon, ils ne valent que pour cette tâche. Les mots de passe ne sont pas mémorisés.</translation>
     </message>
 </context>
 <context>
     <name>host::SentView</name>
     <message>
         <source>What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui sera envoyé</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglage</translation>
     </message>
     <message>
         <source>Printer&apos;s default</source>
-        <translation type="unfinished"></translation>
+        <translation>Défaut de l’imprimante</translation>
     </message>
     <message>
         <source>Chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisi</translation>
     </message>
     <message>
         <source>Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyé</translation>
     </message>
     <message>
         <source>Show &amp;unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les in&amp;changés</translation>
     </message>
     <message>
         <source>Nothing differs from the printer&apos;s defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne diffère des réglages par défaut de l’imprimante.</translation>
     </message>
     <message>
         <source>%1 of %2 settings differ from the printer&apos;s defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 réglages sur %2 diffèrent des réglages par défaut de l’imprimante.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>Differs from the printer&apos;s default</source>
-        <translation type="unfinished"></translation>
+        <translation>Diffère du réglage par défaut de l’imprimante</translation>
     </message>
 </context>
 <context>
     <name>host::SheetCanvas</name>
     <message>
         <source>Drawing page %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin de la page %1…</translation>
     </message>
 </context>
 <context>
     <name>host::SummaryPage</name>
     <message>
         <source>What will be sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui sera envoyé</translation>
+    </message>
+</context>
+<context>
+    <name>host::TypedOptions</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1 :</translation>
     </message>
 </context>
 </TS>

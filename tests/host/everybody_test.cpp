@@ -28,6 +28,7 @@ namespace {
 struct Guise {
     const char *name;
     const char *language; ///< null for the made-up one
+    const char *firstPage;
     bool isRightToLeft = false;
     double letters = 1; ///< their size
 };
@@ -123,6 +124,7 @@ protected:
 
 TEST_P(ForEverybody, EachPageIsReachedReadAndHeard) {
     ASSERT_EQ(m_tabs->count(), 3);
+    EXPECT_EQ(m_tabs->tabText(0).toStdString(), GetParam().firstPage);
     for (int page = 0; page < m_tabs->count(); ++page) {
         m_tabs->setCurrentIndex(page);
         QTest::qWait(20);
@@ -173,10 +175,11 @@ TEST_P(ForEverybody, EachPageIsReachedReadAndHeard) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Guises, ForEverybody,
-                         testing::Values(Guise{"English", "en"}, Guise{"German", "de"},
-                                         Guise{"French", "fr"}, Guise{"Japanese", "ja"},
-                                         Guise{"Chinese", "zh_CN"}, Guise{"LongTexts", nullptr},
-                                         Guise{"RightToLeft", "en", true},
-                                         Guise{"LargeLetters", "de", false, 1.8}),
-                         [](const auto &info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Guises, ForEverybody,
+    testing::Values(Guise{"English", "en", "General"}, Guise{"German", "de", "Allgemein"},
+                    Guise{"French", "fr", "Général"}, Guise{"Japanese", "ja", "一般"},
+                    Guise{"Chinese", "zh_CN", "常规"}, Guise{"LongTexts", nullptr, "Géñérål~~~~"},
+                    Guise{"RightToLeft", "en", "General", true},
+                    Guise{"LargeLetters", "de", "Allgemein", false, 1.8}),
+    [](const auto &info) { return std::string(info.param.name); });
