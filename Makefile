@@ -3,7 +3,7 @@ PRESET ?= debug
 BUILD := build/$(PRESET)
 JOBS := $(shell nproc)
 
-.PHONY: setup build run test pictures bench format lint clean
+.PHONY: setup build run test pictures fuzz bench format lint clean
 
 setup:
 	@scripts/install-packages
@@ -26,6 +26,14 @@ pictures: build
 	for scale in 1.5 2; do \
 	  QT_SCALE_FACTOR=$$scale QT_QPA_PLATFORM=offscreen $(BUILD)/bin/pictures docs/pictures dialog-$${scale}x; \
 	done
+
+# SECONDS of fuzzing, for all targets together.
+SECONDS ?= 60
+fuzz: setup
+	@mkdir -p build
+	cmake --preset fuzz > build/fuzz-configure.log 2>&1 || { cat build/fuzz-configure.log; exit 1; }
+	cmake --build --preset fuzz -j $(JOBS) --target fuzz
+	fuzz/run.py build/fuzz $(SECONDS)
 
 bench: setup
 	@mkdir -p build

@@ -2,6 +2,7 @@
 
 #include "host/host_error.h"
 #include "host/words.h"
+#include "platform/utf8.h"
 
 #include <QThreadPool>
 #include <QUrl>
@@ -13,6 +14,7 @@
 namespace host {
 namespace {
 
+constexpr qsizetype kMostTitle = 255;       ///< bytes, RFC 8011, 5.1.3
 constexpr qsizetype kLargestPpd = 64 << 20; ///< as of a PPD file
 
 bool isFine(const IppPtr &reply) {
@@ -40,6 +42,25 @@ ipp_t *printerRequest(ipp_op_t operation, const QString &queue,
     return request;
 }
 
+/// Whether a filter reads an option as it was sent, and the one behind it, too. A brace without its
+/// partner, for one, takes all that follows into a collection.
+bool arrives(const QByteArray &name, const QByteArray &value) {
+    QByteArray line = name + '=';
+    for (const char c : value) { // as the scheduler writes it
+        if (std::strchr(" \t\n\\'\"", c))
+            line += '\\';
+        line += c;
+    }
+    const QByteArray next = name + '_';
+    cups_option_t *options = nullptr;
+    const int count = cupsParseOptions((line + ' ' + next + "=1").constData(), 0, &options);
+    const char *told = cupsGetOption(name.constData(), count, options);
+    const char *behind = cupsGetOption(next.constData(), count, options);
+    const bool isSame = count == 2 && told && value == told && behind && qstrcmp(behind, "1") == 0;
+    cupsFreeOptions(count, options);
+    return isSame;
+}
+
 constexpr const char *kName[] = {"printer-name"};
 
 } // namespace
@@ -49,6 +70,23 @@ bool isQueueName(const QString &name) {
         if (c <= u' ' || c == u'/' || c == u'#' || c == u'?' || c == u'\x7f')
             return false;
     return !name.isEmpty() && name.toUtf8().size() < 128;
+}
+
+QString sendingProblem(const QString &name, const QString &value) {
+    constexpr int kMostName = 127, kMostValue = 1023; // bytes, RFC 8011, 5.1
+    for (const QChar c : name)
+        if (c <= u' ' || c == u'=' || c == u'\x7f')
+            return HostWords::tr("has a character in its name that can't be sent");
+    if (name.isEmpty() || name.toUtf8().size() > kMostName)
+        return HostWords::tr("has a name that can't be sent");
+    for (const QChar c : value)
+        if (c < u' ' || c == u'\x7f')
+            return HostWords::tr("has a value with a control character, which can't be sent");
+    if (value.toUtf8().size() > kMostValue)
+        return HostWords::tr("has a value that is too long to be sent");
+    if (!arrives(name.toUtf8(), value.toUtf8()))
+        return HostWords::tr("has a value that can't be sent");
+    return {};
 }
 
 PoolPlaceLent::PoolPlaceLent() {
@@ -259,6 +297,9 @@ QByteArray CupsServer::readBody(const QString &queue) {
 /// B='two words'}", reach the filters: libcups would send them as collections, which cupsd leaves
 /// out of the filters' options.
 int CupsServer::createJob(const CupsJob &job) {
+    for (const auto &[name, value] : job.options)
+        if (const QString problem = sendingProblem(name, value); !problem.isNull())
+            throw HostError(name, problem);
     ipp_t *request = ippNewRequest(IPP_OP_CREATE_JOB);
     const QByteArray printer = printerUri(job.queue);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
@@ -266,7 +307,7 @@ int CupsServer::createJob(const CupsJob &job) {
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                  cupsUser());
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                 job.title.toUtf8().constData());
+                 cutToBytes(job.title, kMostTitle).toUtf8().constData());
     cups_option_t *list = nullptr;
     int count = 0;
     QList<QPair<QByteArray, QByteArray>> customValues;

@@ -66,6 +66,11 @@ struct CupsJob {
     QList<QPair<QString, QString>> options;
 };
 
+/// @return why an option can't be sent, half a sentence; null where it can. CUPS hands options to
+///         its filters as one line of words, in which a control character, or what parts words in
+///         a name, would make other options of them.
+QString sendingProblem(const QString &name, const QString &value);
+
 /// Whether a text can be a queue's name: names travel as a path (RFC 8011, 4.1.4).
 bool isQueueName(const QString &name);
 

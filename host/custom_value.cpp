@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 
@@ -55,10 +56,14 @@ bool isWithin(double value, double least, double greatest) {
 }
 
 bool fits(const ppd_cparam_t &p) {
-    if (isSecret(p))
-        return true;
+    const char *text = isText(p) ? p.current.custom_string : nullptr;
+    // libcups writes a backslash into PostScript as it is, where it takes what is behind it along.
+    const bool isSafe = !text || std::none_of(text, text + std::strlen(text), [](char c) {
+        return c == '\\' || (c > 0 && c < ' ') || c == '\x7f';
+    });
+    if (!isSafe || isSecret(p))
+        return isSafe;
     if (isText(p)) {
-        const char *text = p.current.custom_string;
         return isWithin(text ? double(std::strlen(text)) : 0, p.minimum.custom_string,
                         p.maximum.custom_string);
     }

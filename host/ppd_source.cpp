@@ -43,6 +43,8 @@ void markChoices(const PpdSource &source, const QList<QPair<QString, QString>> &
             throw HostError(subject, QStringLiteral("the option has no choice ") + choice);
         if (!markChoice(source.ppd.get(), option.toUtf8().constData(), choice.toUtf8().constData()))
             throw HostError(subject, QStringLiteral("can't be marked"));
+        if (isCustom(choice) && !customValueFits(source.ppd.get(), *found))
+            throw HostError(subject, QStringLiteral("is outside of what the printer takes"));
     }
 }
 

@@ -32,12 +32,12 @@ QueueModel::QueueModel(QObject *parent)
 void QueueModel::setQueues(const QList<QueueInfo> &queues) {
     m_queues = queues;
     m_isFilled = true;
-    sort();
+    arrange();
 }
 
 void QueueModel::setRecent(const QStringList &names) {
     m_recent = names;
-    sort();
+    arrange();
 }
 
 void QueueModel::setFilter(const QString &words) {
@@ -76,7 +76,7 @@ bool QueueModel::isBefore(const QString &first, const QString &second) const {
     return a != b ? a < b : m_collator.compare(first, second) < 0;
 }
 
-void QueueModel::sort() {
+void QueueModel::arrange() {
     std::stable_sort(m_queues.begin(), m_queues.end(),
                      [this](const auto &a, const auto &b) { return isBefore(a.name, b.name); });
     rebuild();

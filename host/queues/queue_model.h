@@ -48,7 +48,7 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
-    void sort();
+    void arrange();
     void rebuild();
     bool passes(const QueueInfo &info) const;
     bool isBefore(const QString &first, const QString &second) const;

@@ -126,7 +126,8 @@ QString rangeProblem(const CustomParameter &parameter) {
 QString textProblem(const CustomParameter &parameter, const QString &value) {
     const QString text = parameter.text;
     for (const QChar c : value) {
-        if (c.category() == QChar::Other_Control)
+        // A backslash would reach PostScript as it is, and take what is behind it along.
+        if (c.category() == QChar::Other_Control || c == u'\\')
             return HostWords::tr("“%1” has a character that can't be printed.").arg(text);
         if (parameter.type == PPD_CUSTOM_PASSCODE && (c < u'0' || c > u'9'))
             return HostWords::tr("“%1” takes digits only.").arg(text);

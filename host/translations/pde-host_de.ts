@@ -825,6 +825,26 @@
         <source>not sent</source>
         <translation>nicht gesendet</translation>
     </message>
+    <message>
+        <source>has a character in its name that can&apos;t be sent</source>
+        <translation>hat ein Zeichen im Namen, das nicht gesendet werden kann</translation>
+    </message>
+    <message>
+        <source>has a name that can&apos;t be sent</source>
+        <translation>hat einen Namen, der nicht gesendet werden kann</translation>
+    </message>
+    <message>
+        <source>has a value with a control character, which can&apos;t be sent</source>
+        <translation>hat einen Wert mit einem Steuerzeichen, das nicht gesendet werden kann</translation>
+    </message>
+    <message>
+        <source>has a value that is too long to be sent</source>
+        <translation>hat einen Wert, der zum Senden zu lang ist</translation>
+    </message>
+    <message>
+        <source>has a value that can&apos;t be sent</source>
+        <translation>hat einen Wert, der nicht gesendet werden kann</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

@@ -825,6 +825,26 @@
         <source>not sent</source>
         <translation>non envoyé</translation>
     </message>
+    <message>
+        <source>has a character in its name that can&apos;t be sent</source>
+        <translation>a dans son nom un caractère qui ne peut pas être envoyé</translation>
+    </message>
+    <message>
+        <source>has a name that can&apos;t be sent</source>
+        <translation>a un nom qui ne peut pas être envoyé</translation>
+    </message>
+    <message>
+        <source>has a value with a control character, which can&apos;t be sent</source>
+        <translation>a une valeur avec un caractère de contrôle, qui ne peut pas être envoyé</translation>
+    </message>
+    <message>
+        <source>has a value that is too long to be sent</source>
+        <translation>a une valeur trop longue pour être envoyée</translation>
+    </message>
+    <message>
+        <source>has a value that can&apos;t be sent</source>
+        <translation>a une valeur qui ne peut pas être envoyée</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

@@ -824,6 +824,26 @@
         <source>not sent</source>
         <translation>送信しない</translation>
     </message>
+    <message>
+        <source>has a character in its name that can&apos;t be sent</source>
+        <translation>名前に送信できない文字があります</translation>
+    </message>
+    <message>
+        <source>has a name that can&apos;t be sent</source>
+        <translation>名前を送信できません</translation>
+    </message>
+    <message>
+        <source>has a value with a control character, which can&apos;t be sent</source>
+        <translation>値に送信できない制御文字があります</translation>
+    </message>
+    <message>
+        <source>has a value that is too long to be sent</source>
+        <translation>値が長すぎて送信できません</translation>
+    </message>
+    <message>
+        <source>has a value that can&apos;t be sent</source>
+        <translation>値を送信できません</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

@@ -824,6 +824,26 @@
         <source>not sent</source>
         <translation>不发送</translation>
     </message>
+    <message>
+        <source>has a character in its name that can&apos;t be sent</source>
+        <translation>名称中有无法发送的字符</translation>
+    </message>
+    <message>
+        <source>has a name that can&apos;t be sent</source>
+        <translation>名称无法发送</translation>
+    </message>
+    <message>
+        <source>has a value with a control character, which can&apos;t be sent</source>
+        <translation>值中有无法发送的控制字符</translation>
+    </message>
+    <message>
+        <source>has a value that is too long to be sent</source>
+        <translation>值过长，无法发送</translation>
+    </message>
+    <message>
+        <source>has a value that can&apos;t be sent</source>
+        <translation>值无法发送</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>
