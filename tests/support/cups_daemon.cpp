@@ -34,6 +34,10 @@ int freePort() {
 } // namespace
 
 CupsDaemon::~CupsDaemon() {
+    stop();
+}
+
+void CupsDaemon::stop() {
     m_server.terminate();
     if (!m_server.waitForFinished(5000))
         m_server.kill();

@@ -13,6 +13,8 @@ public:
 
     /// @return whether it answers
     bool start();
+    /// Ends it; start() goes on with the same queues.
+    void stop();
     /// Adds a queue that writes its jobs, filtered, to outputOf(name).
     bool addQueue(const QString &name, const QString &ppd);
     QString outputOf(const QString &queue) const { return m_folder.filePath(queue + ".out"); }
