@@ -8,6 +8,23 @@
 #include <QPluginLoader>
 
 namespace host {
+namespace {
+
+/// A module is asked by its metadata, before any code of it runs. One without metadata is told by
+/// what the loader says of it.
+void requireInterface(const QString &module, const QString &iid) {
+    const QString ours = QStringLiteral(PDEPlugin_iid);
+    const QString name = ours.section(u'/', 0, 0);
+    if (iid == ours || iid.isEmpty())
+        return;
+    if (iid.section(u'/', 0, 0) == name)
+        throw HostError(module, QStringLiteral("speaks version %1 of the panel interface; this "
+                                               "program speaks version %2")
+                                    .arg(iid.section(u'/', 1), ours.section(u'/', 1)));
+    throw HostError(module, QStringLiteral("is no module of a print panel"));
+}
+
+} // namespace
 
 QString defaultBundleDirectory() {
     const QDir program(QCoreApplication::applicationDirPath());
@@ -29,13 +46,19 @@ PDEPlugin *loadBundle(const QString &directory) {
     if (!QFileInfo(module).isFile())
         throw HostError(module, QStringLiteral("the bundle's module is missing"));
     QPluginLoader loader(module); // its end doesn't unload the module
-    auto *plugin = qobject_cast<PDEPlugin *>(loader.instance());
-    if (!plugin)
-        throw HostError(module, loader.isLoaded()
-                                    ? QStringLiteral("is no module of a print panel")
-                                    : QStringLiteral("can't be loaded: ") + loader.errorString());
-    plugin->initWithBundle(bundle);
-    return plugin;
+    requireInterface(module, loader.metaData().value(QStringLiteral("IID")).toString());
+    try {
+        auto *plugin = qobject_cast<PDEPlugin *>(loader.instance());
+        if (!plugin)
+            throw HostError(module,
+                            loader.isLoaded()
+                                ? QStringLiteral("is no module of a print panel")
+                                : QStringLiteral("can't be loaded: ") + loader.errorString());
+        plugin->initWithBundle(bundle);
+        return plugin;
+    } catch (const std::exception &error) {
+        throw HostError(module, QStringLiteral("failed: ") + QString::fromUtf8(error.what()));
+    }
 }
 
 } // namespace host

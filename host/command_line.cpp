@@ -41,6 +41,7 @@ const OptionRow kOptions[] = {
     {"--ppd", kDialog | kPrint | kInspect | kDrive, &CommandLine::ppd, nullptr},
     {"--queue", kDialog | kPrint | kList, &CommandLine::queue, nullptr},
     {"--preset", kPrint, &CommandLine::preset, nullptr},
+    {"--check", kInspect, &CommandLine::check, nullptr},
     {"--bundle", kDialog | kPrint | kInspect | kDrive | kList, &CommandLine::bundle, nullptr},
     {"--language", kDialog | kPrint | kInspect | kDrive, &CommandLine::language, nullptr},
     {"--to", kPrint, &CommandLine::to, nullptr},
@@ -89,8 +90,10 @@ void checkTogether(const CommandLine &line) {
             wrong(QStringLiteral("--shot"), "needs --shown");
         break;
     case Command::Inspect:
-        if (line.ppd.isNull())
-            wrong(QStringLiteral("inspect"), "needs --ppd FILE");
+        if (line.ppd.isNull() == line.check.isNull())
+            wrong(QStringLiteral("inspect"), "needs --ppd FILE or --check FILE");
+        if (line.json && line.check.isNull())
+            wrong(QStringLiteral("--json"), "needs --check");
         break;
     case Command::Drive:
         if (line.ppd.isNull())
@@ -129,6 +132,8 @@ CommandLine parseCommandLine(const QStringList &arguments) {
             line.shown = true;
         } else if (!optionsEnded && argument == u"--presets" && line.command == Command::List) {
             line.presets = true;
+        } else if (!optionsEnded && argument == u"--json" && line.command == Command::Inspect) {
+            line.json = true;
         } else if (!optionsEnded && argument.startsWith(u'-')) {
             const auto row = std::find_if(std::begin(kOptions), std::end(kOptions),
                                           [&](const OptionRow &o) { return argument == o.name; });
@@ -157,13 +162,15 @@ QString usage() {
                    [--to FILE.ps] [--ticket FILE.json]
                    [--shown [--summary FILE.json] [--shot FILE.png]] DOCUMENT
   pde-host inspect --ppd FILE [--bundle DIR]
+  pde-host inspect --check FILE [--json] [--bundle DIR]
   pde-host drive   --ppd FILE [--bundle DIR] [-o KEY=CHOICE]... [--setting KEY=VALUE]...
   pde-host list    [--bundle DIR]
   pde-host list    --presets [--queue NAME]
 
   dialog   shows the print dialog; without a queue, that of CUPS' default queue
   print    prints unattended: to a file, or with --queue and no --to to CUPS
-  inspect  prints the panel's state as JSON
+  inspect  prints the panel's state as JSON; or tells the maker of a PPD what will
+           not work, and then ends with 1 if there is anything
   drive    obeys JSON commands from standard input, one to a line: open, state,
            summary, select, click, step, slide, type, mark, setting, willShow,
            restore, shouldPrint, save, print, help, shot, alert, close
@@ -172,6 +179,8 @@ QString usage() {
 
   --ppd FILE            a PPD file stands for the queue
   --queue NAME          a queue of CUPS
+  --check FILE          a PPD file to look at
+  --json                tells it as JSON
   --bundle DIR          the panel's bundle; else the one beside the program
   --preset NAME         a preset of the queue goes before -o and --setting
   --language CODE       language of the panel, such as "de"

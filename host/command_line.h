@@ -22,8 +22,10 @@ struct CommandLine {
     QString language; ///< language code, such as "de"
     QString document; ///< PostScript or PDF file
     QString preset;   ///< name of a preset of the queue
+    QString check;    ///< path of a PPD file that is looked at for its maker
     bool shown = false;
     bool presets = false;                    ///< list presets instead of queues
+    bool json = false;                       ///< findings as JSON
     QList<QPair<QString, QString>> marks;    ///< PPD option and choice, in order
     QList<QPair<QString, QString>> settings; ///< key and value, in order
 };

@@ -1,3 +1,5 @@
+#include "check/findings.h"
+#include "host/bundle_loader.h"
 #include "host/command_line.h"
 #include "host/dialog/dialog_command.h"
 #include "host/drive.h"
@@ -58,7 +60,27 @@ void choosePlatform(host::Command command) {
     qputenv("QT_QPA_PLATFORM", platforms);
 }
 
-void run(const host::CommandLine &line) {
+/// Looks at a PPD for its maker. @return the exit code
+int checkPpd(const host::CommandLine &line) {
+    const QString path = line.bundle.isNull() ? host::defaultBundleDirectory() : line.bundle;
+    QString reason;
+    const std::shared_ptr<Bundle> bundle = Bundle::open(path, &reason);
+    if (!bundle)
+        throw host::HostError(path, reason);
+    QByteArray told;
+    const int code = check::run(line.check, *bundle, line.json, &told);
+    if (code == kBadInput) {
+        complain(QString::fromUtf8(told));
+        return code;
+    }
+    if (std::fwrite(told.constData(), 1, size_t(told.size()), stdout) != size_t(told.size()) ||
+        std::fflush(stdout) != 0)
+        throw host::HostError(QStringLiteral("standard output"),
+                              QStringLiteral("can't be written"));
+    return code;
+}
+
+int run(const host::CommandLine &line) {
     using host::Command;
     if (!line.language.isNull())
         Bundle::setLanguages({line.language});
@@ -76,6 +98,8 @@ void run(const host::CommandLine &line) {
         host::print(line);
         break;
     case Command::Inspect:
+        if (!line.check.isNull())
+            return checkPpd(line);
         host::inspect(line);
         break;
     case Command::Drive:
@@ -88,6 +112,7 @@ void run(const host::CommandLine &line) {
             host::listQueues(line);
         break;
     }
+    return 0;
 }
 
 } // namespace
@@ -97,16 +122,14 @@ int main(int argc, char **argv) {
     try {
         const host::CommandLine line = host::parseCommandLine(programArguments(argc, argv));
         if (line.command == host::Command::Help) {
-            run(line);
-            return 0;
+            return run(line);
         }
         choosePlatform(line.command);
         int ownCount = 1; // Qt would take arguments of ours for its own
         formerHandler = qInstallMessageHandler(passMessage);
         const QApplication application(ownCount, argv);
         starting = false;
-        run(line);
-        return 0;
+        return run(line);
     } catch (const host::HostError &error) {
         complain(error.text());
         return kBadInput;
