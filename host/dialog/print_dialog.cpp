@@ -6,6 +6,7 @@
 #include "host/dialog/plain_label.h"
 #include "host/dialog/queue_job.h"
 #include "host/dialog/summary_page.h"
+#include "host/host_error.h"
 #include "host/presets/preset_bar.h"
 #include "host/presets/problem_area.h"
 #include "host/presets/remember_box.h"
@@ -255,9 +256,13 @@ void PrintDialog::showQueue() {
     if (const auto found = m_jobs.find(queue); found != m_jobs.end()) {
         showJob(*found->second);
     } else if (queue.isNull()) {
-        QueueDetails details{m_setup.file ? std::move(*m_setup.file) : openFilePrinter()};
-        auto job = std::make_unique<QueueJob>(std::move(details), *m_setup.plugin, true);
-        showJob(*m_jobs.emplace(queue, std::move(job)).first->second);
+        try {
+            QueueDetails details{m_setup.file ? std::move(*m_setup.file) : openFilePrinter()};
+            auto job = std::make_unique<QueueJob>(std::move(details), *m_setup.plugin, true);
+            showJob(*m_jobs.emplace(queue, std::move(job)).first->second);
+        } catch (const HostError &error) {
+            m_failure = error.text();
+        }
     } else {
         m_directory.askDetails(queue);
     }

@@ -85,7 +85,9 @@ void PrintDialog::print() {
     tell({});
     if (!m_common->problem().isNull() || !m_typed->problem().isNull()) {
         m_tabs->setCurrentIndex(0);
-        m_common->problem().isNull() ? m_typed->showProblem() : m_common->showProblem();
+        const bool isCommon = !m_common->problem().isNull();
+        tell(isCommon ? m_common->problem() : m_typed->problem());
+        isCommon ? m_common->showProblem() : m_typed->showProblem();
         return;
     }
     if (!m_setup.document)
