@@ -5,13 +5,9 @@
 
 #include "host/conflicts/resolution.h"
 #include "host/cups_server.h"
-#include "host/document.h"
-#include "host/files.h"
-#include "host/host_error.h"
 #include "host/queues/queue_info.h"
 #include "host/settings/job_options.h"
 #include "host/settings/job_settings.h"
-#include "host/settings/page_ranges.h"
 #include "platform/ppd_file.h"
 #include "platform/ppd_marks.h"
 

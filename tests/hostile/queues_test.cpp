@@ -1,6 +1,5 @@
 // Queues that no maker would ship: the panel opens or stays away, and all else works on.
 
-#include "support/cups_daemon.h"
 #include "support/ppd_text.h"
 #include "support/run_program.h"
 
@@ -15,8 +14,8 @@
 #include "platform/views/popup_view.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -177,7 +176,7 @@ const Queue kQueues[] = {
 };
 
 /// The whole road, with everything that a dialog shows beside the panel.
-void walk(host::PpdSource source, const char *name, int imageTypes) {
+void walk(host::PpdSource source, int imageTypes) {
     ppd_file_t *ppd = source.ppd.get();
     ppdMarkDefaults(ppd);
     host::PanelStage stage(std::move(source), *host::loadBundle(BUNDLE_DIR));
@@ -202,8 +201,6 @@ void walk(host::PpdSource source, const char *name, int imageTypes) {
         stage.session().noteUserAct();
         stage.session().save();
         stage.session().summary();
-    } else {
-        EXPECT_GE(imageTypes, -1) << name;
     }
     stage.session().print();
     host::proposal(conflicts);
@@ -225,7 +222,7 @@ TEST_P(HostileQueue, IsSurvived) {
         std::setlocale(LC_ALL, locale); // a decimal comma, where the machine has it
         PpdFile file = parsePpdFile(text);
         if (file.ppd)
-            walk({std::move(file.ppd), Printer{"Hostile"}}, GetParam().name, GetParam().imageTypes);
+            walk({std::move(file.ppd), Printer{"Hostile"}}, GetParam().imageTypes);
         else
             EXPECT_FALSE(file.reason.isEmpty());
     }
@@ -277,12 +274,9 @@ protected:
 /// As a PPD it is refused with a reason, and nobody waits for it.
 TEST_P(HostileFile, IsNoPpd) {
     GetParam().make(m_path);
-    QElapsedTimer clock;
-    clock.start();
     const PpdFile file = readPpdFile(m_path);
     EXPECT_FALSE(file.ppd);
     EXPECT_FALSE(file.reason.isEmpty());
-    EXPECT_LT(clock.elapsed(), 60000);
 }
 
 /// As a constraint cache it leaves a panel that works, with fewer conflicts.
@@ -292,7 +286,7 @@ TEST_P(HostileFile, IsNoCache) {
     text.replace("*FormatVersion:", "*QZXCDFSetting: \"" + m_path.toUtf8() + "\"\n*FormatVersion:");
     PpdFile file = parsePpdFile(text);
     ASSERT_TRUE(file.ppd);
-    walk({std::move(file.ppd), Printer{"Hostile"}}, GetParam().name, 13);
+    walk({std::move(file.ppd), Printer{"Hostile"}}, 13);
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, HostileFile, testing::ValuesIn(kThings),
