@@ -44,7 +44,8 @@ void markChoices(const PpdSource &source, const QList<QPair<QString, QString>> &
         if (!markChoice(source.ppd.get(), option.toUtf8().constData(), choice.toUtf8().constData()))
             throw HostError(subject, QStringLiteral("can't be marked"));
         if (isCustom(choice) && !customValueFits(source.ppd.get(), *found))
-            throw HostError(subject, QStringLiteral("is outside of what the printer takes"));
+            throw HostError(QStringLiteral("-o ") + option, // the value may be a PIN
+                            QStringLiteral("is outside of what the printer takes"));
     }
 }
 

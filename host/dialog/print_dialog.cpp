@@ -100,6 +100,7 @@ PrintDialog::PrintDialog(DialogSetup setup) : m_setup(std::move(setup)) {
     });
     showDocument();
     followQueues();
+    m_list->setFocus();
     resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
 }
 

@@ -14,7 +14,7 @@ PageSource::~PageSource() {
 }
 
 qint64 PageSource::key(const PageWish &wish) {
-    return qint64(wish.page) * 8 + wish.rotation / 90 * 2 + (wish.isGrey ? 1 : 0);
+    return qint64(wish.page) * 8 + qint64(wish.rotation / 90) * 2 + (wish.isGrey ? 1 : 0);
 }
 
 void PageSource::want(const QList<int> &sizes, const QList<PageWish> &pictures) {

@@ -17,7 +17,7 @@ constexpr int kShadow = 4;      // its width
 constexpr int kWheelStep = 120; // of a common mouse
 constexpr int kSlowMs = 600;
 /// Of all pages of a side together, so that the source can keep them.
-constexpr double kMostPixels = PageSource::kMostBytes / 5;
+constexpr double kMostPixels = PageSource::kMostBytes / 5.0;
 constexpr QColor kInk(80, 80, 80); // of words on paper, which is white in each style
 
 struct Key {

@@ -159,8 +159,9 @@ QList<int> SheetLayout::pagesFor(int side) const {
 
 PlacedPage SheetLayout::placed(int page, int cell, QSizeF size) const {
     const QSizeF space(m_area.width() / m_columns, m_area.height() / m_rows);
+    const int row = cell / m_columns;
     const QRectF room(QPointF(m_area.left() + cell % m_columns * space.width(),
-                              m_area.top() + cell / m_columns * space.height()),
+                              m_area.top() + row * space.height()),
                       space);
     QSizeF sheet = m_options.paper; // as the pages lie, before they are put into cells
     if ((sheet.width() > sheet.height()) != m_landscapePages)

@@ -113,7 +113,7 @@ private:
     void addEntry(const QString &key, const QString &value) {
         SentRow row;
         row.group = HostWords::tr("Image options");
-        row.option = key;
+        row.option = key.section(u'.', -1); // the whole key stands where it is sent
         row.chosen = shownValue(key, value);
         row.isChanged = true;
         if (optionValue(m_options, key) == value)

@@ -123,7 +123,6 @@ TEST_P(Hurt, IsToldAndNothingIsLost) {
     }
     EXPECT_TRUE(wait([&] { return !person.told().isEmpty(); }));
     EXPECT_FALSE(person.isSent());
-    EXPECT_TRUE(person.dialog->isVisible());
     ASSERT_TRUE(wound.mend(cups));
     person.view<QPushButton>("retry")->click();
     ASSERT_TRUE(wait([&] { return person.print()->isEnabled(); })) << person.told().toStdString();
@@ -167,5 +166,4 @@ TEST(SilentServer, HoldsNothingUp) {
     }
     // What waits for this server waits for seconds; a busy machine never takes that long.
     EXPECT_LT(longest, 2000);
-    silent.close();
 }
