@@ -138,6 +138,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
             }
         }
     stage.session().print();
-    host::writePsJob(stage.source().ppd.get(), "%!PS-Adobe-3.0\n%%EndComments\nshowpage\n", "fuzz");
+    host::writePsJob(host::psCode(stage.source().ppd.get(), "fuzz"),
+                     QByteArray("%!PS-Adobe-3.0\n%%EndComments\nshowpage\n"), "fuzz",
+                     [](const QByteArray &) {});
     return 0;
 }

@@ -126,6 +126,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     walk(ppd, table);
     host::proposal(conflicts);
     host::sentList({ppd, nullptr, &job});
-    host::writePsJob(ppd, "%!PS-Adobe-3.0\n%%EndComments\nshowpage\n", "title");
+    host::writePsJob(host::psCode(ppd, "title"),
+                     QByteArray("%!PS-Adobe-3.0\n%%EndComments\nshowpage\n"), "title",
+                     [](const QByteArray &) {});
     return 0;
 }

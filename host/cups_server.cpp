@@ -334,41 +334,46 @@ int CupsServer::createJob(const CupsJob &job) {
     return ippGetInteger(id, 0);
 }
 
-int CupsServer::submit(const CupsJob &job, const std::function<bool(qint64)> &progress) {
+int CupsServer::submit(const CupsJob &job, const std::function<void(qint64)> &progress,
+                       const std::function<void(int)> &created) {
     requireQueue(job.queue);
-    const QByteArray queue = job.queue.toUtf8();
     const int id = createJob(job);
-    bool givenUp = false;
-    const auto send = [&] {
-        const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
-        if (cupsStartDocument(m_http.get(), queue.constData(), id, job.title.toUtf8().constData(),
-                              job.format, 1) != HTTP_STATUS_CONTINUE)
-            return false;
-        constexpr qsizetype kBlock = 64 << 10;
-        for (qsizetype at = 0; at < job.document.size(); at += kBlock) {
-            givenUp = progress && !progress(at);
-            if (givenUp)
-                return false;
-            m_watch.restart(); // each piece has its time for itself
-            if (cupsWriteRequestData(m_http.get(), job.document.constData() + at,
-                                     size_t(qMin(kBlock, job.document.size() - at))) !=
-                HTTP_STATUS_CONTINUE)
-                return false;
+    if (created)
+        created(id);
+    try {
+        sendDocument(job, id, progress);
+    } catch (const HostError &) {
+        if (!m_watch.isStopped()) {
+            const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
+            if (reconnect()) // the server may still wait for the rest on this connection
+                cupsCancelJob2(m_http.get(), job.queue.toUtf8().constData(), id, 0);
         }
-        m_watch.restart();
-        return cupsFinishDocument(m_http.get(), queue.constData()) <= IPP_STATUS_OK_CONFLICTING;
-    };
-    if (!send()) {
-        const QString reason = givenUp ? HostWords::tr("the job was cancelled") : failure();
-        if (givenUp) { // the server still waits for the rest on this connection
-            m_http.reset();
-            connect();
-        }
-        const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
-        cupsCancelJob2(m_http.get(), queue.constData(), id, 0);
-        throw HostError(job.queue, reason);
+        throw;
     }
     return id;
+}
+
+void CupsServer::sendDocument(const CupsJob &job, int id,
+                              const std::function<void(qint64)> &progress) {
+    const QByteArray queue = job.queue.toUtf8();
+    const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
+    const auto require = [&](bool done) {
+        if (!done)
+            throw HostError(job.queue, failure());
+    };
+    require(cupsStartDocument(m_http.get(), queue.constData(), id, job.title.toUtf8().constData(),
+                              job.format, 1) == HTTP_STATUS_CONTINUE);
+    constexpr qint64 kBlock = 64 << 10;
+    for (qint64 at = 0; at < job.document.size(); at += kBlock) {
+        if (progress)
+            progress(at);
+        const QByteArray piece = job.document.read(at, kBlock);
+        m_watch.restart(); // each piece has its time for itself
+        require(cupsWriteRequestData(m_http.get(), piece.constData(), size_t(piece.size())) ==
+                HTTP_STATUS_CONTINUE);
+    }
+    m_watch.restart();
+    require(cupsFinishDocument(m_http.get(), queue.constData()) <= IPP_STATUS_OK_CONFLICTING);
 }
 
 JobState CupsServer::jobState(int job) {

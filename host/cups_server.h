@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/content.h"
 #include "host/cups_watch.h"
 #include "platform/cups_ppd.h"
 
@@ -62,7 +63,7 @@ struct CupsJob {
     QString queue;
     QString title;
     const char *format; ///< MIME type of the document
-    QByteArray document;
+    Content document;
     QList<QPair<QString, QString>> options;
 };
 
@@ -106,11 +107,13 @@ public:
     QByteArray findPpd(const QString &queue);
     /// The text of a queue's PPD. @throw HostError without one
     QByteArray ppd(const QString &queue);
-    /// Sends a job. One that can't be sent whole is cancelled.
-    /// @param progress  called before each piece of the document, with the bytes that are sent; its
-    ///                  false gives the job up, which is then an error, too. May be empty
+    /// Sends a job. One that can't be sent whole is cancelled, but not by a server that is stopped.
+    /// @param progress  called before each piece of the document, with the bytes that are sent; may
+    ///                  be empty
+    /// @param created   told the job's number before the document is sent; may be empty
     /// @return the job's number
-    int submit(const CupsJob &job, const std::function<bool(qint64 sent)> &progress = {});
+    int submit(const CupsJob &job, const std::function<void(qint64 sent)> &progress = {},
+               const std::function<void(int id)> &created = {});
     /// @return how a job stands, in the server's words where it has some
     JobState jobState(int job);
     /// Cancels a job that isn't finished yet.
@@ -126,6 +129,7 @@ private:
     bool reconnect();
     QByteArray readBody(const QString &queue);
     int createJob(const CupsJob &job);
+    void sendDocument(const CupsJob &job, int id, const std::function<void(qint64)> &progress);
     const char *answerPrompt(const char *prompt);
     /// Sends a request, which it takes, and waits for the reply. @throw HostError without one
     IppPtr ask(ipp_t *request, const QString &subject, const char *resource = "/");

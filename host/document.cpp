@@ -1,6 +1,5 @@
 #include "host/document.h"
 
-#include "host/files.h"
 #include "host/host_error.h"
 #include "host/words.h"
 
@@ -14,7 +13,9 @@
 namespace host {
 namespace {
 
-constexpr qint64 kGreatestDocument = qint64(1) << 30;
+constexpr qint64 kGreatestConversion = qint64(4) << 30;
+constexpr qint64 kMostWaiting = 1 << 20; ///< bytes on their way to a converter
+constexpr qint64 kUelWindow = 512;       ///< bytes at the end that may be job control
 constexpr int kConversionMs = 120 * 1000;
 constexpr int kLookMs = 50; ///< between two looks at whether a conversion is still wanted
 constexpr char kEndOfTransmission = '\x04';
@@ -56,30 +57,39 @@ bool isInstalled(const Converter &converter) {
     return !QStandardPaths::findExecutable(QString::fromLatin1(converter.program)).isEmpty();
 }
 
-/// Runs a converter. @param input  what it reads from its standard input; null for nothing
+/// Runs a converter. @param input  what it reads from its standard input; empty for nothing
 /// @throw HostError
-QByteArray run(const Converter &converter, const Document &document, const QStringList &arguments,
-               const QByteArray &input, const char *format, const QByteArray &signature,
-               const std::atomic<bool> *givenUp) {
+Content run(const Converter &converter, const Document &document, const QStringList &arguments,
+            const Content &input, const char *format, const QByteArray &signature,
+            const std::atomic<bool> *givenUp) {
     const QString program = QString::fromLatin1(converter.program);
     const QTemporaryDir folder; // what a converter that is killed leaves goes with it
+    if (!folder.isValid())
+        throw HostError(document.path, folder.errorString());
+    const QString result = folder.filePath(QStringLiteral("result"));
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    if (folder.isValid())
-        environment.insert(QStringLiteral("TMPDIR"), folder.path());
+    environment.insert(QStringLiteral("TMPDIR"), folder.path());
     process.setProcessEnvironment(environment);
-    if (input.isNull())
+    process.setStandardOutputFile(result);
+    if (input.size() == 0)
         process.setStandardInputFile(QProcess::nullDevice());
     process.start(program, arguments);
-    if (!input.isNull()) {
-        process.write(input);
-        process.closeWriteChannel();
-    }
     const QDeadlineTimer deadline(kConversionMs);
     const auto isWanted = [&] {
         return !(givenUp && *givenUp) && !deadline.hasExpired() &&
-               process.bytesAvailable() <= kGreatestDocument;
+               QFileInfo(result).size() <= kGreatestConversion;
     };
+    process.waitForStarted(kConversionMs);
+    for (qint64 at = 0; at < input.size() && process.state() == QProcess::Running && isWanted();) {
+        if (process.bytesToWrite() < kMostWaiting) {
+            const QByteArray piece = input.read(at, kMostWaiting);
+            process.write(piece);
+            at += piece.size();
+        }
+        process.waitForBytesWritten(kLookMs);
+    }
+    process.closeWriteChannel();
     while (!process.waitForFinished(kLookMs) && process.error() == QProcess::Timedout && isWanted())
         ;
     if (process.state() != QProcess::NotRunning || process.error() == QProcess::FailedToStart) {
@@ -94,67 +104,71 @@ QByteArray run(const Converter &converter, const Document &document, const QStri
         process.waitForFinished(-1);
         throw HostError(document.path, error);
     }
-    const QByteArray text = process.readAllStandardOutput();
+    const Content content = Content::ofFile(result); // which is kept while this is
     const QString complaint =
         QString::fromLocal8Bit(process.readAllStandardError()).section(u'\n', 0, 0);
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0 ||
-        !text.startsWith(signature))
+        !content.startsWith(signature))
         throw HostError(
             document.path,
             HostWords::tr("%1 can't convert it to %2%3")
                 .arg(program, QLatin1String(format),
                      complaint.isEmpty() ? complaint : QStringLiteral(": ") + complaint));
-    return text;
+    return content;
+}
+
+/// Job control ends with the line that enters PostScript, so the next line is the document's.
+qint64 behindJobControl(const Content &content, qint64 start) {
+    ContentLines lines(content, start);
+    while (lines.next())
+        if (lines.line().startsWith("%!"))
+            return lines.start();
+    return content.size();
 }
 
 } // namespace
 
-QByteArray barePostScript(const QByteArray &content) {
-    QByteArray text = content;
-    if (text.startsWith(kDosEps) && text.size() >= 12) {
-        const qint64 at = qFromLittleEndian<quint32>(text.constData() + 4);
-        const qint64 length = qFromLittleEndian<quint32>(text.constData() + 8);
-        if (at + length > text.size())
+Content barePostScript(const Content &content) {
+    Content text = content;
+    if (const QByteArray head = content.read(0, 12);
+        head.startsWith(kDosEps) && head.size() == 12) {
+        const qint64 at = qFromLittleEndian<quint32>(head.constData() + 4);
+        const qint64 length = qFromLittleEndian<quint32>(head.constData() + 8);
+        if (at + length > content.size())
             return {};
-        text = text.mid(at, length);
+        text = content.mid(at, length);
     }
-    qsizetype start = 0;
-    while (start < text.size() && (text[start] == kEndOfTransmission))
+    qint64 start = 0;
+    while (text.startsWith(QByteArrayView(&kEndOfTransmission, 1), start))
         ++start;
-    if (QByteArrayView(text).sliced(start).startsWith(kUel)) {
-        // Job control ends with the line that enters PostScript, so the next line is the
-        // document's.
-        while (start < text.size() && !QByteArrayView(text).sliced(start).startsWith("%!")) {
-            while (start < text.size() && text[start] != '\n' && text[start] != '\r')
-                ++start;
-            while (start < text.size() && (text[start] == '\n' || text[start] == '\r'))
-                ++start;
-        }
-    }
-    text = text.mid(start);
+    if (text.startsWith(kUel, start))
+        start = behindJobControl(text, start);
+    text = text.mid(start, text.size());
     if (!text.startsWith("%!"))
         return {};
-    qsizetype end = text.size();
-    const qsizetype uel = text.lastIndexOf(kUel);
-    if (uel > 0 && text.size() - uel < 512 && text.indexOf("%!", uel) < 0)
-        end = uel;
-    while (end > 0 && text[end - 1] == kEndOfTransmission)
+    qint64 end = text.size();
+    const qint64 tailAt = qMax<qint64>(1, end - kUelWindow);
+    const QByteArray tail = text.read(tailAt, kUelWindow);
+    const qsizetype uel = tail.lastIndexOf(kUel);
+    if (uel >= 0 && tail.indexOf("%!", uel) < 0)
+        end = tailAt + uel;
+    while (end > 0 && text.startsWith(QByteArrayView(&kEndOfTransmission, 1), end - 1))
         --end;
-    return text.left(end);
+    return text.mid(0, end);
 }
 
 Document readDocument(const QString &path) {
-    const QByteArray content = readRegularFile(path, kGreatestDocument);
-    if (content.isEmpty())
+    const Content content = Content::ofFile(path);
+    if (content.size() == 0)
         throw HostError(path, HostWords::tr("is empty"));
-    if (QByteArray bare = barePostScript(content); !bare.isNull())
+    if (const Content bare = barePostScript(content); bare.size() > 0)
         return {Document::Type::PostScript, path, bare};
-    if (content.left(kPdfWindow).contains("%PDF-"))
+    if (content.read(0, kPdfWindow).contains("%PDF-"))
         return {Document::Type::Pdf, path, content};
     throw HostError(path, HostWords::tr("is neither PostScript nor PDF"));
 }
 
-QByteArray toPostScript(const Document &document) {
+Content toPostScript(const Document &document, const std::atomic<bool> *givenUp) {
     if (document.type == Document::Type::PostScript)
         return document.content;
     for (const Converter &converter : kConverters)
@@ -163,12 +177,12 @@ QByteArray toPostScript(const Document &document) {
                        converter.arguments +
                            QStringList{QFileInfo(document.path).absoluteFilePath()} +
                            converter.output,
-                       {}, "PostScript", "%!", nullptr);
+                       {}, "PostScript", "%!", givenUp);
     throw HostError(document.path,
                     HostWords::tr("a PDF needs pdftops or gs, and neither is installed"));
 }
 
-QByteArray toPdf(const Document &document, QSizeF page, const std::atomic<bool> *givenUp) {
+Content toPdf(const Document &document, QSizeF page, const std::atomic<bool> *givenUp) {
     if (document.type == Document::Type::Pdf)
         return document.content;
     for (const Converter &converter : kViewers) {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QByteArray>
+#include "host/content.h"
+
 #include <QSizeF>
 #include <QString>
 
@@ -13,28 +14,29 @@ struct Document {
     enum class Type { PostScript, Pdf };
 
     Type type;
-    QString path;       ///< as the user wrote it
-    QByteArray content; ///< PostScript bare of job control around it; a PDF as it is
+    QString path;    ///< as the user wrote it
+    Content content; ///< PostScript bare of job control around it; a PDF as it is
 };
 
-/// Reads a document. Job control of another printer, end-of-file marks and the binary header of a
+/// Opens a document. Job control of another printer, end-of-file marks and the binary header of a
 /// DOS EPS file are taken off PostScript.
 /// @throw HostError for a file that can't be read or is neither PostScript nor PDF
 Document readDocument(const QString &path);
 
-/// The document as PostScript: a PDF is converted by pdftops, or by gs where that is missing.
-/// @throw HostError if neither is there, or it fails or needs longer than two minutes
-QByteArray toPostScript(const Document &document);
+/// The document as PostScript: a PDF is converted by pdftops, or by gs where that is missing, into
+/// a temporary file. Meant for a thread of its own.
+/// @param givenUp  the conversion is killed soon after this turns true; may be null
+/// @throw HostError if neither is there, or it fails, writes over 4 GiB, needs longer than two
+///        minutes or is given up
+Content toPostScript(const Document &document, const std::atomic<bool> *givenUp = nullptr);
 
 /// The document as PDF, to be looked at: PostScript is converted by gs, which needs no showpage
-/// behind the last page. Meant for a thread of its own.
-/// @param page     the size in points of pages that don't set their own
-/// @param givenUp  the conversion is killed soon after this turns true; may be null
-/// @throw HostError if gs isn't there, or it fails, writes over 1 GiB, needs longer than two
-///        minutes or is given up
-QByteArray toPdf(const Document &document, QSizeF page, const std::atomic<bool> *givenUp = nullptr);
+/// behind the last page. Else as toPostScript().
+/// @param page  the size in points of pages that don't set their own
+Content toPdf(const Document &document, QSizeF page, const std::atomic<bool> *givenUp = nullptr);
 
-/// The part of a PostScript file that is PostScript, see readDocument; null without one.
-QByteArray barePostScript(const QByteArray &content);
+/// The part of a PostScript file that is PostScript, see readDocument(); empty without one.
+/// @throw HostError as Content::read()
+Content barePostScript(const Content &content);
 
 } // namespace host

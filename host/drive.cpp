@@ -273,7 +273,7 @@ QJsonObject Driver::print(const QJsonObject &command) {
     PanelSession &session = m_stage.session();
     const QVariantMap summary = session.isOpen() ? session.summary() : QVariantMap();
     session.print();
-    outputs.add(to, psJob(m_stage, document));
+    outputs.add(to, [&](const Sink &sink) { writeJob(m_stage, document, sink); });
     if (const QString ticket = command[QStringLiteral("ticket")].toString(); !ticket.isEmpty())
         outputs.add(ticket, jsonText(ticketJson(m_stage.callback().settings())));
     if (const QString file = command[QStringLiteral("summary")].toString(); !file.isEmpty())

@@ -3,70 +3,44 @@
 namespace host {
 namespace {
 
-/// Goes through a document line by line.
-class Reader {
+/// A document's lines, with data that isn't lines passed over.
+class Reader : public ContentLines {
 public:
-    explicit Reader(const QByteArray &text) : m_text(text) {}
+    explicit Reader(const Content &document) : ContentLines(document), m_document(document) {}
 
-    bool next() {
-        m_start = m_end;
-        if (m_start >= m_text.size())
-            return false;
-        qsizetype at = m_start;
-        while (at < m_text.size() && m_text[at] != '\n' && m_text[at] != '\r')
-            ++at;
-        m_line = QByteArrayView(m_text).sliced(m_start, at - m_start);
-        m_end = behindLineEnd(at);
-        return true;
-    }
-    QByteArrayView line() const { return m_line; }
-    qsizetype start() const { return m_start; }
-    qsizetype end() const { return m_end; } ///< behind the line's end
-    bool is(QByteArrayView comment) const { return m_line.startsWith(comment); }
+    bool is(QByteArrayView comment) const { return line().startsWith(comment); }
 
     /// Passes over data that the line just read announces. A length that doesn't lead to the end
     /// comment is wrong, and the end comment is sought instead; without one, nothing is passed
     /// over.
     void skipData(QByteArrayView endComment) {
-        const qsizetype from = m_end;
+        const qint64 from = end();
         if (m_absent.contains(endComment.toByteArray()))
             return; // sought before, from a place in front of this one
-        const QList<QByteArray> words =
-            m_line.sliced(m_line.indexOf(':') + 1).toByteArray().simplified().split(' ');
+        const QList<QByteArray> words = line().mid(line().indexOf(':') + 1).simplified().split(' ');
         bool valid = false;
         const qlonglong count = words.value(0).toLongLong(&valid);
-        if (valid && count >= 0 && count <= m_text.size() - from) {
+        if (valid && count >= 0 && count <= m_document.size() - from) {
             if (words.value(2).toLower() == "lines")
                 for (qlonglong i = 0; i < count && next(); ++i) {
                 }
             else
-                m_end = from + count;
-            const qsizetype behind = m_end;
-            if (startsAt(behind, endComment) || startsAt(behindLineEnd(behind), endComment))
+                goTo(from + count);
+            if (m_document.startsWith(endComment, end()) ||
+                m_document.startsWith(endComment, behindLineEnd(end())))
                 return;
         }
-        m_end = from;
-        for (qsizetype at = from; (at = m_text.indexOf(endComment, at)) >= 0; ++at)
-            if (at > 0 && (m_text[at - 1] == '\n' || m_text[at - 1] == '\r')) {
-                m_end = at;
-                return;
-            }
+        goTo(from);
+        for (qint64 at = from; (at = m_document.indexOf(endComment, at)) >= 0; ++at) {
+            const QByteArray before = at > 0 ? m_document.read(at - 1, 1) : QByteArray();
+            if (before == "\n" || before == "\r")
+                return goTo(at);
+        }
         m_absent.append(endComment.toByteArray());
     }
 
 private:
-    bool startsAt(qsizetype at, QByteArrayView text) const {
-        return at <= m_text.size() && QByteArrayView(m_text).sliced(at).startsWith(text);
-    }
-    qsizetype behindLineEnd(qsizetype at) const {
-        if (at < m_text.size() && m_text[at] == '\r')
-            return at + (at + 1 < m_text.size() && m_text[at + 1] == '\n' ? 2 : 1);
-        return at < m_text.size() && m_text[at] == '\n' ? at + 1 : at;
-    }
-
-    const QByteArray &m_text;
-    QByteArrayView m_line;
-    qsizetype m_start = 0, m_end = 0;
+    const Content &m_document;
     QList<QByteArray> m_absent; ///< end comments that the rest of the text lacks
 };
 
@@ -76,14 +50,14 @@ bool endsHeader(QByteArrayView line) {
     return line.size() < 2 || line[0] != '%' || line[1] <= ' ' || line[1] > '~';
 }
 
-void place(qsizetype &field, qsizetype at) {
+void place(qint64 &field, qint64 at) {
     if (field < 0)
         field = at;
 }
 
 } // namespace
 
-DscMap mapDsc(const QByteArray &document) {
+DscMap mapDsc(const Content &document) {
     DscMap map;
     map.conforming = document.startsWith("%!PS-Adobe-");
     int nested = 0;

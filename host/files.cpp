@@ -11,27 +11,27 @@
 
 namespace host {
 
-QByteArray readRegularFile(const QString &path, qint64 limit) {
-    QString reason;
-    const auto content = ::readRegularFile(path, limit, &reason);
-    if (!content)
-        throw HostError(path, reason);
-    return *content;
-}
-
 Outputs::Outputs(const QStringList &inputs) : m_inputs(inputs) {}
 Outputs::~Outputs() = default;
 
 void Outputs::add(const QString &path, const QByteArray &content) {
+    add(path, [&content](const Sink &sink) { sink(content); });
+}
+
+void Outputs::add(const QString &path, const std::function<void(const Sink &)> &write) {
     if (const QString refusal = refusalToReplace(path, m_inputs); !refusal.isNull())
         throw HostError(path, refusal);
     for (const auto &other : m_files)
         if (QFileInfo(other->fileName()).absoluteFilePath() == QFileInfo(path).absoluteFilePath())
             throw HostError(path, QStringLiteral("is named for two outputs"));
     auto file = std::make_unique<QSaveFile>(path);
-    if (!file->open(QIODevice::WriteOnly) || file->write(content) != content.size() ||
-        !file->flush())
-        throw HostError(path, HostWords::tr("can't be written: %1").arg(reasonOf(*file)));
+    const auto require = [&](bool done) {
+        if (!done)
+            throw HostError(path, HostWords::tr("can't be written: %1").arg(reasonOf(*file)));
+    };
+    require(file->open(QIODevice::WriteOnly));
+    write([&](const QByteArray &bytes) { require(file->write(bytes) == bytes.size()); });
+    require(file->flush());
     m_files.push_back(std::move(file));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/content.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QPixmap>
@@ -13,9 +15,6 @@ class QSaveFile;
 
 namespace host {
 
-/// As platform's readRegularFile(). @throw HostError with its reason
-QByteArray readRegularFile(const QString &path, qint64 limit);
-
 /// The files that one command writes: all of them appear together, or none does.
 class Outputs {
 public:
@@ -28,6 +27,8 @@ public:
     /// @throw HostError if the name can't be written: an input or another output of the command, no
     ///        such folder, not a regular file, disk full
     void add(const QString &path, const QByteArray &content);
+    /// The same for content that is written piece by piece. @throw HostError also as `write`
+    void add(const QString &path, const std::function<void(const Sink &)> &write);
     /// Puts all files in place. @throw HostError
     void commit();
 

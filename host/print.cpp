@@ -54,9 +54,9 @@ void tellUnusedOptions(const PanelStage &stage) {
 
 } // namespace
 
-QByteArray psJob(PanelStage &stage, const Document &document) {
-    return writePsJob(stage.source().ppd.get(), toPostScript(document),
-                      QFileInfo(document.path).fileName());
+void writeJob(PanelStage &stage, const Document &document, const Sink &sink) {
+    const QString title = QFileInfo(document.path).fileName();
+    writePsJob(psCode(stage.source().ppd.get(), title), toPostScript(document), title, sink);
 }
 
 int sendToCups(PanelStage &stage, const Document &document) {
@@ -83,7 +83,7 @@ void print(const CommandLine &line) {
         outputs.add(line.ticket, jsonText(ticketJson(stage.callback().settings())));
     if (!target.isNull()) {
         tellUnusedOptions(stage);
-        outputs.add(target, psJob(stage, document));
+        outputs.add(target, [&](const Sink &sink) { writeJob(stage, document, sink); });
     } else {
         const int job = sendToCups(stage, document);
         std::printf("%s-%d\n", stage.source().printer.id.toUtf8().constData(), job);

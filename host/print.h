@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include "host/content.h"
 
 namespace host {
 
@@ -11,8 +11,8 @@ struct Document;
 /// The command "print": one document, unattended, to a file or to CUPS. @throw HostError
 void print(const CommandLine &line);
 
-/// A document as a PostScript job with the stage's marks. @throw HostError
-QByteArray psJob(PanelStage &stage, const Document &document);
+/// Writes a document as a PostScript job with the stage's marks. @throw HostError also of the sink
+void writeJob(PanelStage &stage, const Document &document, const Sink &sink);
 
 /// Sends a document to the stage's queue, with the marks and the print settings as the job's
 /// options. @return the job's number @throw HostError

@@ -88,36 +88,36 @@ QByteArray dscText(const QString &text) {
     return text.simplified().toUtf8().left(200);
 }
 
-QByteArray embed(const QByteArray &document, const QString &title, const QByteArray &prologCode,
-                 const QByteArray &setupCode, const QByteArray &pageCode) {
-    const bool hasLineEnd = document.endsWith('\n') || document.endsWith('\r');
-    return "%!PS-Adobe-3.0\n%%Title: " + dscText(title) + "\n%%EndComments\n" +
-           within("Prolog", prologCode) + within("Setup", setupCode) + "%%Page: 1 1\n" +
-           within("PageSetup", pageCode) + "%%BeginDocument: " + dscText(title) + '\n' + document +
-           (hasLineEnd ? "" : "\n") + "%%EndDocument\n%%Trailer\n%%EOF\n";
+/// The document as a whole in a conforming one.
+void embed(const PsCode &code, const Content &document, const QString &title, const Sink &sink) {
+    const QByteArray last = document.read(document.size() - 1, 1);
+    sink("%!PS-Adobe-3.0\n%%Title: " + dscText(title) + "\n%%EndComments\n" +
+         within("Prolog", code.prolog) + within("Setup", code.setup) + "%%Page: 1 1\n" +
+         within("PageSetup", code.page) + "%%BeginDocument: " + dscText(title) + '\n');
+    document.copy(0, document.size(), sink);
+    sink((last == "\n" || last == "\r" ? "" : "\n") +
+         QByteArrayLiteral("%%EndDocument\n%%Trailer\n%%EOF\n"));
 }
 
 /// Where code goes in, by place; several pieces at one place keep their order.
-using Insertions = QMap<qsizetype, QByteArray>;
+using Insertions = QMap<qint64, QByteArray>;
 
-Insertions placeCode(const DscMap &map, const QByteArray &prologCode, QByteArray setupCode,
-                     const QByteArray &pageCode) {
+Insertions placeCode(const DscMap &map, const PsCode &code) {
     Insertions at;
     const bool hasProlog = map.prologBegun >= 0;
     at[hasProlog ? map.prologBegun : map.headerEnd] +=
-        hasProlog || map.prologEnd >= 0 ? prologCode : within("Prolog", prologCode);
-    if (map.pages.isEmpty())
-        setupCode += pageCode;
+        hasProlog || map.prologEnd >= 0 ? code.prolog : within("Prolog", code.prolog);
+    const QByteArray setupCode = map.pages.isEmpty() ? code.setup + code.page : code.setup;
     if (map.setupBegun >= 0) {
         at[map.setupBegun] += setupCode;
     } else {
-        const qsizetype place = map.firstPage >= 0   ? map.firstPage
-                                : map.prologEnd >= 0 ? map.prologEnd
-                                                     : map.headerEnd;
+        const qint64 place = map.firstPage >= 0   ? map.firstPage
+                             : map.prologEnd >= 0 ? map.prologEnd
+                                                  : map.headerEnd;
         at[place] += within("Setup", setupCode);
     }
     for (const DscMap::Page &page : map.pages)
-        at[page.setupPlace] += page.hasSetup ? pageCode : within("PageSetup", pageCode);
+        at[page.setupPlace] += page.hasSetup ? code.page : within("PageSetup", code.page);
     return at;
 }
 
@@ -128,32 +128,46 @@ QByteArray userName() {
 
 } // namespace
 
-QByteArray writePsJob(ppd_file_t *ppd, const QByteArray &document, const QString &title) {
-    const QByteArray prologCode = prolog(ppd), setupCode = documentSetup(ppd),
-                     pageCode = section(ppd, PPD_ORDER_PAGE);
-    QByteArray job = written([&](FILE *stream) {
+PsCode psCode(ppd_file_t *ppd, const QString &title) {
+    PsCode code;
+    code.before = written([&](FILE *stream) {
         ppdEmitJCL(ppd, stream, 0, userName().constData(), title.toUtf8().constData());
         ppdEmit(ppd, stream, PPD_ORDER_EXIT);
     });
+    code.prolog = prolog(ppd);
+    code.setup = documentSetup(ppd);
+    code.page = section(ppd, PPD_ORDER_PAGE);
+    if (ppd->jcl_end)
+        code.after = written([&](FILE *stream) { ppdEmitJCLEnd(ppd, stream); });
+    return code;
+}
 
+void writePsJob(const PsCode &code, const Content &document, const QString &title,
+                const Sink &sink) {
+    char last = '\n';
+    const Sink write = [&](const QByteArray &bytes) {
+        if (bytes.isEmpty())
+            return;
+        last = bytes.back();
+        sink(bytes);
+    };
+    write(code.before);
     const DscMap map = mapDsc(document);
     if (!map.conforming) {
-        job += embed(document, title, prologCode, setupCode, pageCode);
+        embed(code, document, title, write);
     } else {
-        qsizetype done = 0;
-        const Insertions insertions = placeCode(map, prologCode, setupCode, pageCode);
+        qint64 done = 0;
+        const Insertions insertions = placeCode(map, code);
         for (auto piece = insertions.begin(); piece != insertions.end(); ++piece) {
-            job += document.mid(done, piece.key() - done);
-            if (!piece->isEmpty() && !job.endsWith('\n') && !job.endsWith('\r'))
-                job += '\n';
-            job += *piece;
+            document.copy(done, piece.key(), write);
             done = piece.key();
+            if (!piece->isEmpty() && last != '\n' && last != '\r')
+                write("\n");
+            write(*piece);
         }
-        job += document.mid(done);
+        document.copy(done, document.size(), write);
     }
-    if (ppd->jcl_end)
-        job += written([&](FILE *stream) { ppdEmitJCLEnd(ppd, stream); });
-    return job;
+    write(code.after);
 }
 
 } // namespace host

@@ -6,6 +6,7 @@
 #include "host/dialog/plain_label.h"
 #include "host/document.h"
 #include "host/files.h"
+#include "host/ps_job.h"
 
 #include <QAccessible>
 #include <QFileInfo>
@@ -146,6 +147,7 @@ void JobPage::send(const CupsJob &job) {
     });
     connect(m_sender, &JobSender::failed, this,
             [this](const QString &reason) { fail(m_cancel->isEnabled() ? reason : QString()); });
+    connect(m_sender, &JobSender::leftBehind, this, &JobPage::leftBehind);
     connect(m_sender, &JobSender::stateChanged, this, &JobPage::showState);
     connect(m_sender, &JobSender::followFailed, this,
             [this](const QString &reason) { showWords(reason); });
@@ -180,38 +182,29 @@ void JobPage::showState(const JobState &state) {
     showWords(state.message.isEmpty() ? words : words + QLatin1Char('\n') + state.message);
 }
 
-std::function<void(const QString &)> JobPage::failing() {
-    return [this, givenUp = m_givenUp](const QString &reason) {
-        if (*givenUp)
-            return;
-        m_givenUp.reset();
-        fail(reason);
-    };
-}
-
 void JobPage::writeFile(const QString &target, const Document &document, const QStringList &inputs,
-                        const std::function<QByteArray(const QByteArray &)> &make) {
+                        const PsCode &code) {
     begin(tr("Writing “%1”…").arg(QFileInfo(target).fileName()), 0);
     m_givenUp = std::make_shared<std::atomic<bool>>(false);
     inBackground(
-        this, [document] { return toPostScript(document); },
-        [=, this, givenUp = m_givenUp](const QByteArray &postScript) {
-            if (!*givenUp)
-                write(target, inputs, make(postScript));
-        },
-        failing());
-}
-
-void JobPage::write(const QString &target, const QStringList &inputs, const QByteArray &content) {
-    inBackground(
         this,
         [=, givenUp = m_givenUp] {
+            const auto requireWanted = [&] {
+                if (*givenUp)
+                    throw HostError(target, tr("given up"));
+            };
             Outputs outputs(inputs);
-            outputs.add(target, content);
-            const bool wanted = !*givenUp;
-            if (wanted)
-                outputs.commit();
-            return wanted;
+            const Content postScript = toPostScript(document, givenUp.get());
+            outputs.add(target, [&](const Sink &sink) {
+                writePsJob(code, postScript, QFileInfo(document.path).fileName(),
+                           [&](const QByteArray &bytes) {
+                               requireWanted();
+                               sink(bytes);
+                           });
+            });
+            requireWanted();
+            outputs.commit();
+            return true;
         },
         [=, this, givenUp = m_givenUp](bool) {
             if (*givenUp)
@@ -220,7 +213,12 @@ void JobPage::write(const QString &target, const QStringList &inputs, const QByt
             m_isFinished = true;
             end(tr("The file was written."), target);
         },
-        failing());
+        [this, givenUp = m_givenUp](const QString &reason) {
+            if (*givenUp)
+                return;
+            m_givenUp.reset();
+            fail(reason);
+        });
 }
 
 } // namespace host

@@ -16,6 +16,7 @@ namespace host {
 
 struct Document;
 class JobSender;
+struct PsCode;
 
 /// The page of the dialog that stands while a job is on its way, and afterwards: a bar and
 /// "Cancel", then the job's number and its state as it changes, "Cancel Job" and "Close".
@@ -28,11 +29,10 @@ public:
 
     /// Sends a job to CUPS and follows it.
     void send(const CupsJob &job);
-    /// Makes a file in the background: the document is converted, made into a job by `make`, which
-    /// is called on this thread, and written.
+    /// Makes a file in the background: the document is converted, made into a job, and written.
     /// @param inputs  files that can't be replaced
     void writeFile(const QString &target, const Document &document, const QStringList &inputs,
-                   const std::function<QByteArray(const QByteArray &postScript)> &make);
+                   const PsCode &code);
     /// Gives up what is on its way; nothing for a job that was sent.
     void giveUp();
     bool isUnderWay() const { return m_underWay; }
@@ -44,6 +44,8 @@ signals:
     void done();
     /// @param reason  for a person; null where the person gave it up
     void failed(const QString &reason);
+    /// A job that the person gave up may be left on the server. @param reason  for a person
+    void leftBehind(const QString &reason);
     void closed();
 
 private:
@@ -52,8 +54,6 @@ private:
     void fail(const QString &reason);
     void showState(const JobState &state);
     void showWords(const QString &words);
-    void write(const QString &target, const QStringList &inputs, const QByteArray &content);
-    std::function<void(const QString &)> failing();
 
     QLabel *m_headline;
     QLabel *m_state;

@@ -21,7 +21,12 @@ JobSender::JobSender(PasswordSource askPassword, QObject *parent)
 JobSender::~JobSender() {
     m_shared->gone = true;
     if (m_job == 0)
-        m_shared->givenUp = true;
+        giveUpSending();
+}
+
+void JobSender::giveUpSending() {
+    m_shared->givenUp = true;
+    m_shared->stop.request_stop();
 }
 
 PasswordSource JobSender::passwordFromHere(std::function<bool()> stop) {
@@ -31,8 +36,12 @@ PasswordSource JobSender::passwordFromHere(std::function<bool()> stop) {
         QSemaphore given;
         std::optional<Credentials> credentials;
     };
+    const auto tries = std::make_shared<int>(0);
     return [asker = QPointer<JobSender>(this), home = QCoreApplication::instance(),
-            stop = std::move(stop)](const QString &prompt) {
+            stop = std::move(stop), shared = m_shared, tries](const QString &question) {
+        const QString prompt = (*tries)++ == 0
+                                   ? question
+                                   : tr("The name or the password is wrong.") + u'\n' + question;
         const auto answer = std::make_shared<Answer>();
         QMetaObject::invokeMethod(
             home,
@@ -45,6 +54,7 @@ PasswordSource JobSender::passwordFromHere(std::function<bool()> stop) {
         while (!answer->given.tryAcquire(1, kPatienceMs))
             if (stop())
                 return std::optional<Credentials>();
+        shared->declined = !answer->credentials;
         return answer->credentials;
     };
 }
@@ -53,14 +63,42 @@ void JobSender::send(const CupsJob &job) {
     m_queue = job.queue;
     m_total = job.document.size();
     m_timer.start(kProgressMs);
+    // The server may be slow, so a job that is given up is cancelled when nobody waits for it.
+    const auto tidyUp = [queue = m_queue, asker = QPointer<JobSender>(this),
+                         home = QCoreApplication::instance()](int id) {
+        QThreadPool::globalInstance()->start([=] {
+            try {
+                CupsServer().cancelJob(queue, id);
+            } catch (const HostError &error) {
+                QMetaObject::invokeMethod(
+                    home,
+                    [asker, reason = error.text()] {
+                        if (asker)
+                            emit asker->leftBehind(reason);
+                    },
+                    Qt::QueuedConnection);
+            }
+        });
+    };
     inBackground(
         this,
-        [job, shared = m_shared,
+        [job, tidyUp, shared = m_shared,
          password = passwordFromHere([shared = m_shared] { return bool(shared->givenUp); })] {
-            return CupsServer({}, password).submit(job, [&shared](qint64 sent) {
-                shared->sent = sent;
-                return !shared->givenUp;
-            });
+            int id = 0;
+            try {
+                return CupsServer({}, password, shared->stop.get_token())
+                    .submit(
+                        job, [&shared](qint64 sent) { shared->sent = sent; },
+                        [&id](int created) { id = created; });
+            } catch (const HostError &) {
+                if (shared->declined && !shared->givenUp)
+                    throw HostError(job.queue, tr("the server wants to know who you are"));
+                if (!shared->givenUp)
+                    throw;
+                if (id != 0)
+                    tidyUp(id);
+                throw HostError(job.queue, tr("the job was cancelled"));
+            }
         },
         [this](int id) {
             m_job = id;
@@ -77,9 +115,8 @@ void JobSender::send(const CupsJob &job) {
 }
 
 void JobSender::cancel() {
-    m_shared->givenUp = true;
     if (m_job == 0)
-        return;
+        return giveUpSending();
     inBackground(
         this,
         [queue = m_queue, job = m_job,
@@ -113,6 +150,7 @@ void JobSender::look() {
         },
         [this](const QString &reason) {
             m_asking = false;
+            m_hasState = false; // what was told of it is no longer on view
             emit followFailed(reason);
         });
 }

@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <memory>
+#include <stop_token>
 
 namespace host {
 
@@ -27,7 +28,7 @@ public:
 
     /// Sends the job; to be called once.
     void send(const CupsJob &job);
-    /// Gives the sending up, which then fails, or cancels the job that was sent.
+    /// Gives the sending up, which then fails at once, or cancels the job that was sent.
     void cancel();
     /// The job's number on the server; 0 before sent().
     int job() const { return m_job; }
@@ -38,6 +39,8 @@ signals:
     void sent(int job);
     /// @param reason  for a person
     void failed(const QString &reason);
+    /// A job that was given up may be left on the server, without its document.
+    void leftBehind(const QString &reason);
     void stateChanged(const host::JobState &state);
     /// The server can't be asked how the job stands, or refuses to cancel it; it is asked again.
     void followFailed(const QString &reason);
@@ -45,12 +48,15 @@ signals:
 private:
     /// What both threads look at.
     struct Shared {
-        std::atomic<bool> gone = false;    ///< this object
-        std::atomic<bool> givenUp = false; ///< the sending
+        std::atomic<bool> gone = false;     ///< this object
+        std::atomic<bool> givenUp = false;  ///< the sending
+        std::stop_source stop;              ///< of the sending
+        std::atomic<bool> declined = false; ///< the person, to say who they are
         std::atomic<qint64> sent = 0;
     };
 
     void look();
+    void giveUpSending();
     /// Asks the person, for a thread that waits for the answer until `stop` holds.
     PasswordSource passwordFromHere(std::function<bool()> stop);
 

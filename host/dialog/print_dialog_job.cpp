@@ -113,9 +113,7 @@ void PrintDialog::send(const QString &target) {
     m_pages->setCurrentWidget(m_jobPage);
     if (m_job->isToFile()) {
         m_jobPage->writeFile(target, document, {document.path, stage.source().path},
-                             [this, title](const QByteArray &postScript) {
-                                 return writePsJob(m_job->ppd(), postScript, title);
-                             });
+                             psCode(m_job->ppd(), title));
         return;
     }
     CupsJob job;

@@ -54,6 +54,29 @@ QSize drawnSize(QSize wanted) {
     return size.toSize().expandedTo({1, 1}).boundedTo({kLongestPixels, kLongestPixels});
 }
 
+/// A content as poppler reads it.
+class ContentDevice : public QIODevice {
+public:
+    explicit ContentDevice(Content content) : m_content(std::move(content)) {}
+    qint64 size() const override { return m_content.size(); }
+
+protected:
+    qint64 readData(char *data, qint64 most) override {
+        try {
+            const QByteArray bytes = m_content.read(pos(), most);
+            std::copy(bytes.begin(), bytes.end(), data);
+            return bytes.size();
+        } catch (const HostError &error) {
+            setErrorString(error.text());
+            return -1; // the page is damaged then
+        }
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    const Content m_content;
+};
+
 /// As PostScript turns RGB to grey (PostScript Language Reference, 7.2.1).
 QImage inGrey(const QImage &picture) {
     const QImage from = picture.convertToFormat(QImage::Format_RGB32);
@@ -107,8 +130,10 @@ void PageWorker::startIfIdle() {
 void PageWorker::work() {
     while (step())
         ;
-    if (m_isLeft)
+    if (m_isLeft) {
         m_document.reset();
+        m_device.reset();
+    }
 }
 
 bool PageWorker::step() {
@@ -154,9 +179,10 @@ void PageWorker::open() {
     m_isOpened = true;
     QString problem;
     try {
-        const QByteArray pdf = toPdf(m_content, m_page, &m_isLeft);
+        m_device = std::make_unique<ContentDevice>(toPdf(m_content, m_page, &m_isLeft));
         m_content.content = {};
-        m_document = Poppler::Document::loadFromData(pdf);
+        m_device->open(QIODevice::ReadOnly);
+        m_document = Poppler::Document::load(m_device.get());
         if (!m_document)
             problem = HostWords::tr("the document is damaged.");
         else if (m_document->isLocked())

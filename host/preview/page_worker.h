@@ -3,6 +3,7 @@
 #include "host/preview/page_source.h"
 
 #include <QDeadlineTimer>
+#include <QIODevice>
 #include <QMutex>
 
 #include <atomic>
@@ -54,7 +55,8 @@ private:
     // Of the thread that works.
     Document m_content;
     const QSizeF m_page;
-    bool m_isOpened = false; ///< or failed
+    bool m_isOpened = false;             ///< or failed
+    std::unique_ptr<QIODevice> m_device; ///< outlives the document
     std::unique_ptr<Poppler::Document> m_document;
     int m_pageCount = 0;
     int m_surveyed = 0;

@@ -9,6 +9,14 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+QByteArray bytesOf(const host::Content &content) {
+    return content.read(0, content.size());
+}
+
+} // namespace
+
 TEST(Document, PostScriptIsBaredOfWhatSurroundsIt) {
     const QByteArray plain = "%!PS\nshowpage\n", uel = "\x1b%-12345X";
     const auto dosEps = [&](quint32 at, quint32 length) {
@@ -37,7 +45,8 @@ TEST(Document, PostScriptIsBaredOfWhatSurroundsIt) {
         {"nothing", "", false},
     };
     for (const auto &c : cases)
-        EXPECT_EQ(host::barePostScript(c.content), c.isPostScript ? plain : QByteArray()) << c.name;
+        EXPECT_EQ(bytesOf(host::barePostScript(c.content)), c.isPostScript ? plain : QByteArray())
+            << c.name;
 }
 
 TEST(Document, PdfIsToldByItsContentAndConverted) {
@@ -46,7 +55,7 @@ TEST(Document, PdfIsToldByItsContentAndConverted) {
     ASSERT_TRUE(QFile::copy(samplePath("sample.pdf"), path));
     const host::Document document = host::readDocument(path);
     EXPECT_EQ(document.type, host::Document::Type::Pdf);
-    const QByteArray text = host::toPostScript(document);
+    const QByteArray text = bytesOf(host::toPostScript(document));
     EXPECT_TRUE(text.startsWith("%!PS-Adobe-"));
     EXPECT_TRUE(text.contains("%%Page: 2 2"));
 

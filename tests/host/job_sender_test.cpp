@@ -49,7 +49,7 @@ TEST(JobSender, SendsFollowsAndCancels) {
     ASSERT_TRUE(cups.start() && cups.addQueue("Queue", samplePath("velmora-plain.ppd")))
         << cups.log().constData();
     qputenv("CUPS_SERVER", cups.environment()[0].section('=', 1).toUtf8());
-    host::CupsJob job{"Queue", "title", CUPS_FORMAT_POSTSCRIPT, "%!PS\nshowpage\n", {}};
+    host::CupsJob job{"Queue", "title", CUPS_FORMAT_POSTSCRIPT, QByteArray("%!PS\nshowpage\n"), {}};
     {
         host::JobSender sender;
         const Told told(sender);
@@ -57,7 +57,8 @@ TEST(JobSender, SendsFollowsAndCancels) {
         ASSERT_TRUE(waitFor([&] { return told.state && told.state->isFinished(); }))
             << told.failure.toStdString();
         EXPECT_EQ(told.state->state, IPP_JSTATE_COMPLETED);
-        EXPECT_EQ(told.progress, std::pair(job.document.size(), job.document.size()));
+        EXPECT_EQ(told.progress,
+                  (std::pair<qint64, qint64>(job.document.size(), job.document.size())));
     }
     {
         host::JobSender sender;
@@ -80,8 +81,9 @@ TEST(JobSender, SendsFollowsAndCancels) {
         EXPECT_EQ(told.failure, "Queue: the job was cancelled");
         EXPECT_EQ(told.job, 0);
         QByteArray waiting;
-        EXPECT_TRUE(cups.command("lpstat", {"-o"}, &waiting));
-        EXPECT_EQ(waiting, "");
+        EXPECT_TRUE(waitFor([&] { // it is tidied up when nobody waits for it
+            return cups.command("lpstat", {"-o"}, &waiting) && waiting.isEmpty();
+        })) << waiting.constData();
     }
     qunsetenv("CUPS_SERVER");
 }
@@ -114,7 +116,7 @@ TEST(JobSender, AsksWhoThePersonIs) {
             return answers ? std::optional(host::Credentials{"ann", "secret"}) : std::nullopt;
         });
         const Told told(sender);
-        sender.send({"Queue", "title", CUPS_FORMAT_POSTSCRIPT, "%!PS\n", {}});
+        sender.send({"Queue", "title", CUPS_FORMAT_POSTSCRIPT, QByteArray("%!PS\n"), {}});
         ASSERT_TRUE(waitFor([&] { return !told.failure.isEmpty(); }));
         EXPECT_EQ(asked, 1);
         EXPECT_EQ(received.contains("Authorization: Basic " + QByteArray("ann:secret").toBase64()),

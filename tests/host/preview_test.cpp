@@ -256,8 +256,9 @@ TEST(Preview, TellsInWordsWhatCannotBeDrawn) {
         Document document;
         const char *words; ///< in the name
     } cases[] = {
-        {{Document::Type::Pdf, "a.pdf", "%PDF-1.4\nnothing"}, "drawn: the document is damaged."},
-        {{Document::Type::Pdf, "a.pdf", pages(3).content.left(120)},
+        {{Document::Type::Pdf, "a.pdf", QByteArray("%PDF-1.4\nnothing")},
+         "drawn: the document is damaged."},
+        {{Document::Type::Pdf, "a.pdf", pages(3).content.mid(0, 120)},
          "drawn: the document is damaged."},
         {host::readDocument(locked), "drawn: the document is protected by a password."},
         {pdf({}), "drawn: the document has no pages."},

@@ -1,6 +1,5 @@
 #include "support/ppd_text.h"
-
-#include "host/ps_job.h"
+#include "support/ps_job_text.h"
 
 #include <gtest/gtest.h>
 
@@ -95,7 +94,7 @@ TEST_F(PsJob, FeaturesGoWhereTheStructureWantsThem) {
     };
     ASSERT_TRUE(ppd);
     for (const auto &c : cases)
-        EXPECT_EQ(host::writePsJob(ppd.get(), c.document, "a\nb").toStdString(),
+        EXPECT_EQ(psJobText(ppd.get(), c.document, "a\nb").toStdString(),
                   filled(c.job).toStdString())
             << c.name;
 }
@@ -109,7 +108,7 @@ TEST_F(PsJob, JobControlStandsAround) {
                            "*JCLCloseUI: *JCLRes\n";
     PpdPtr withJcl = openPpdText(jcl + feature("Out", "1 ExitServer"));
     ASSERT_TRUE(withJcl);
-    const QByteArray job = host::writePsJob(withJcl.get(), "%!PS-Adobe-3.0\nshowpage\n", "t");
+    const QByteArray job = psJobText(withJcl.get(), "%!PS-Adobe-3.0\nshowpage\n", "t");
     const char *const inOrder[] = {"\x1b%-12345X@PJL", "@PJL SET RES=1\n", "ENTER LANGUAGE",
                                    "Out on",           "%!PS-Adobe-3.0\n", "showpage\n",
                                    "\x1b%-12345X@PJL"};

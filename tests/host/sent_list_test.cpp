@@ -70,7 +70,8 @@ TEST(SentList, IsWhatTheServerGets) {
     entries.set("com.velmora.key", "a, 'b' \\c", false);
     const host::ToSend what{ppd, &entries, &job, {{"job-priority", "60"}, {"sides", "one-sided"}}};
 
-    const host::CupsJob bare{"Queue", "t", CUPS_FORMAT_POSTSCRIPT, "%!PS\nshowpage\n", {}};
+    const host::CupsJob bare{
+        "Queue", "t", CUPS_FORMAT_POSTSCRIPT, QByteArray("%!PS\nshowpage\n"), {}};
     host::CupsJob full = bare;
     full.options = host::optionsOf(what);
     const auto without = attributesOf(server.submit(bare));

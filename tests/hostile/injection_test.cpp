@@ -3,11 +3,11 @@
 
 #include "support/filter_options.h"
 #include "support/ppd_text.h"
+#include "support/ps_job_text.h"
 
 #include "host/cups_server.h"
 #include "host/presets/preset.h"
 #include "host/presets/preset_files.h"
-#include "host/ps_job.h"
 #include "host/queues/queue_info.h"
 #include "host/settings/custom_parameters.h"
 #include "host/settings/job_options.h"
@@ -80,7 +80,7 @@ void useQueue(const PpdFile &file, const QString &text = {}) {
         }
     });
     // A document has just the features that were marked, and no line of anybody else.
-    const QByteArray job = host::writePsJob(ppd, "%!PS-Adobe-3.0\n%%EndComments\nshowpage\n", text);
+    const QByteArray job = psJobText(ppd, "%!PS-Adobe-3.0\n%%EndComments\nshowpage\n", text);
     EXPECT_LE(job.count("\n%%BeginFeature:"), 2);
     EXPECT_EQ(job.count("\n%%BeginFeature:"), job.count("\n%%EndFeature"));
     EXPECT_EQ(job.count("\nshowpage"), 1);
@@ -130,7 +130,7 @@ const struct Place {
          ASSERT_TRUE(host::markCustom(file.ppd.get(), *option, parameters));
          EXPECT_EQ(host::customParameters(file.ppd.get(), "Code")[0].value, value);
          EXPECT_TRUE(arrives(host::jobOptionsToSend(file.ppd.get(), nullptr, {})));
-         const QByteArray job = host::writePsJob(file.ppd.get(), "%!PS\nshowpage\n", "t");
+         const QByteArray job = psJobText(file.ppd.get(), "%!PS\nshowpage\n", "t");
          // Parentheses within the string are written as numbers.
          const qsizetype at = job.indexOf("*CustomCode");
          const QByteArray code = job.mid(at, job.indexOf("%%EndFeature", at) - at);

@@ -1,12 +1,12 @@
 // Queues that no maker would ship: the panel opens or stays away, and all else works on.
 
 #include "support/ppd_text.h"
+#include "support/ps_job_text.h"
 #include "support/run_program.h"
 
 #include "host/bundle_loader.h"
 #include "host/conflicts/resolution.h"
 #include "host/panel_stage.h"
-#include "host/ps_job.h"
 #include "host/settings/common_settings.h"
 #include "host/settings/sent_list.h"
 #include "host/settings/typed_options.h"
@@ -207,8 +207,7 @@ void walk(host::PpdSource source, int imageTypes) {
     const auto rows = host::sentList({ppd, &stage.callback().settings(), &job});
     for (const host::SentRow &row : rows)
         EXPECT_FALSE(row.sentText().isEmpty());
-    const QByteArray document =
-        host::writePsJob(ppd, "%!PS-Adobe-3.0\n%%EndComments\nshowpage\n", "t");
+    const QByteArray document = psJobText(ppd, "%!PS-Adobe-3.0\n%%EndComments\nshowpage\n", "t");
     EXPECT_TRUE(document.startsWith("%!PS-Adobe-3.0"));
 }
 
