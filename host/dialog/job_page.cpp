@@ -56,7 +56,11 @@ JobPage::JobPage(QWidget *parent)
         column->addWidget(view);
     auto *layout = new QVBoxLayout(this);
     layout->addStretch(2);
-    layout->addWidget(words, 0, Qt::AlignHCenter);
+    auto *middle = new QHBoxLayout; // which gives wrapped words the height that they need
+    middle->addStretch();
+    middle->addWidget(words);
+    middle->addStretch();
+    layout->addLayout(middle);
     layout->addStretch(3);
     layout->addLayout(buttons);
     connect(m_close, &QPushButton::clicked, this, &JobPage::closed);

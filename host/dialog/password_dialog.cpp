@@ -31,6 +31,10 @@ std::optional<Credentials> askPassword(QWidget *parent, const QString &prompt) {
     QObject::connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
     layout->addRow(buttons);
+    window.setMinimumWidth(window.fontMetrics().averageCharWidth() * 48);
+    window.resize(window.sizeHint());
+    window.resize(window.width(),
+                  qMax(window.height(), layout->totalHeightForWidth(window.width())));
     password->setFocus();
     const QPointer<QDialog> alive(&window);
     if (window.exec() != QDialog::Accepted || !alive)

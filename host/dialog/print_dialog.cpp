@@ -18,9 +18,12 @@
 #include "platform/views/form_loader.h"
 #include "platform/views/modal_window.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
-#include <QEvent>
+#include <QFormLayout>
+#include <QKeyEvent>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -93,6 +96,9 @@ PrintDialog::PrintDialog(DialogSetup setup) : m_setup(std::move(setup)) {
             [this] { settleConflicts(Purpose::Look); });
     connect(m_jobPage, &JobPage::done, this, &PrintDialog::finish);
     connect(m_jobPage, &JobPage::failed, this, &PrintDialog::backToForm);
+    connect(m_jobPage, &JobPage::leftBehind, this, [this](const QString &reason) {
+        tell(tr("A part of the job may be left on the server. It isn't printed."), {reason});
+    });
     connect(m_jobPage, &JobPage::closed, this, &QDialog::accept);
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] {
         if (m_job && m_job->stage().isOpen())
@@ -118,7 +124,7 @@ QWidget *PrintDialog::makeDocumentSide() {
     choose->setObjectName(QStringLiteral("openDocument"));
     choose->setAutoDefault(false);
     choose->setAccessibleName(tr("Open a document"));
-    connect(choose, &QPushButton::clicked, this, &PrintDialog::chooseDocument);
+    connect(choose, &QPushButton::clicked, this, &PrintDialog::openAnother);
     auto *row = new QHBoxLayout;
     row->addWidget(m_documentName, 1);
     row->addWidget(choose);
@@ -127,8 +133,10 @@ QWidget *PrintDialog::makeDocumentSide() {
     layout->addLayout(row);
     m_preview = new PreviewView;
     layout->addWidget(m_preview, 1);
-    connect(m_preview, &PreviewView::pageCountKnown, this,
-            [this](int count) { m_common->setPageCount(count); });
+    connect(m_preview, &PreviewView::pageCountKnown, this, [this](int count) {
+        const QScopedValueRollback isPicked(m_isPicked); // nobody's act
+        m_common->setPageCount(count);
+    });
     return side;
 }
 
@@ -223,9 +231,11 @@ void PrintDialog::followQueues() {
                 refreshPrinter();
             });
     connect(m_list, &QueueList::retryAsked, &m_directory, &QueueDirectory::ask);
-    connect(m_list, &QueueList::pickedByPerson, this, [this] { m_isPicked = true; });
+    connect(m_list, &QueueList::pickedByPerson, this, &PrintDialog::pick);
     connect(m_list, &QueueList::selectionChanged, this, &PrintDialog::showQueue);
     m_isPicked = !m_setup.queue.isNull() || m_setup.file;
+    if (!m_isPicked)
+        qApp->installEventFilter(this);
     m_list->select(m_setup.queue);
     showQueue();
     m_directory.ask();
@@ -234,12 +244,7 @@ void PrintDialog::followQueues() {
 void PrintDialog::takeQueues(const QList<QueueInfo> &queues) {
     m_list->setFailure({});
     m_list->setQueues(queues);
-    if (!m_isPicked)
-        for (const QueueInfo &queue : queues)
-            if (queue.isDefault)
-                m_list->select(queue.name);
-    if (m_isPicked || !queues.isEmpty())
-        m_isPicked = true; // from here on it changes by the person's hand only
+    selectDefault();
     refreshPrinter();
     QStringList names;
     for (const QueueInfo &queue : queues.first(std::min<qsizetype>(queues.size(), kMostPpds)))
@@ -247,11 +252,57 @@ void PrintDialog::takeQueues(const QList<QueueInfo> &queues) {
     m_directory.askPpds(names);
 }
 
+/// The printer that nobody had to choose. Never takes the place of one that the person is at work
+/// with.
+void PrintDialog::selectDefault() {
+    if (m_isPicked || m_isOpening || m_directory.queues().isEmpty())
+        return;
+    pick(); // from here on it changes by the person's hand only
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
+        return;
+    for (const QueueInfo &queue : m_directory.queues())
+        if (queue.isDefault)
+            return m_list->select(queue.name);
+}
+
+void PrintDialog::pick() {
+    m_isPicked = true;
+    qApp->removeEventFilter(this);
+}
+
+bool PrintDialog::eventFilter(QObject *watched, QEvent *event) {
+    const auto isOfSettings = [&] {
+        const auto *widget = qobject_cast<QWidget *>(watched);
+        return widget && (m_settingsPart->isAncestorOf(widget) ||
+                          m_panelHome->parentWidget()->isAncestorOf(widget));
+    };
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
+            break;
+        [[fallthrough]];
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::TouchBegin:
+    case QEvent::Wheel:
+    case QEvent::Shortcut:
+        if (isOfSettings())
+            pick();
+        break;
+    default:
+        break;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
 void PrintDialog::showQueue() {
     const QString queue = m_list->selected();
     if (m_job && m_job->queueOrFile() == queue)
         return;
     leaveJob();
+    tell({});
+    m_wasTold = false;
     m_failure.clear();
     m_directory.forgetDetails();
     if (const auto found = m_jobs.find(queue); found != m_jobs.end()) {
@@ -261,6 +312,8 @@ void PrintDialog::showQueue() {
             QueueDetails details{m_setup.file ? std::move(*m_setup.file) : openFilePrinter()};
             auto job = std::make_unique<QueueJob>(std::move(details), *m_setup.plugin, true);
             showJob(*m_jobs.emplace(queue, std::move(job)).first->second);
+            if (m_setup.store.hasLastUsed(m_job->queue()))
+                m_presets->chooseLastUsed();
         } catch (const HostError &error) {
             m_failure = error.text();
         }
@@ -290,12 +343,12 @@ void PrintDialog::showJob(QueueJob &job) {
     m_job = &job;
     m_chosenLast.clear();
     m_conflicts.emplace(job.ppd());
-    m_presets->setQueue(job.queue());
+    const bool wasHere = m_presets->setQueue(job.queue());
     m_presets->setInstances(job.instances());
     m_remember->setQueue(job.queue());
     openPanel();
     showSettings();
-    m_presets->settle();
+    wasHere ? m_presets->noteChange() : m_presets->settle();
     refresh();
 }
 
@@ -340,6 +393,45 @@ void PrintDialog::showSettings() {
         elsewhere.append(m_job->settings().key(setting));
     m_typed->setOptions(m_job->ppd(), elsewhere, reason);
     views::assignMnemonics(m_settingsPart);
+    orderTabs();
+}
+
+/// The keyboard goes through the window as the eye does. Views that were made for a printer would
+/// come last otherwise.
+void PrintDialog::orderTabs() {
+    QList<QWidget *> order;
+    const auto add = [&order](QWidget *block) {
+        QWidget *widget = block;
+        do {
+            if (widget->focusPolicy() & Qt::TabFocus && !widget->focusProxy() &&
+                (widget == block || block->isAncestorOf(widget)))
+                order.append(widget);
+            widget = widget->nextInFocusChain();
+        } while (widget != block);
+    };
+    const auto addItem = [&add](QLayoutItem *item) {
+        for (int i = 0; item && item->layout() && i < item->layout()->count(); ++i)
+            if (QWidget *widget = item->layout()->itemAt(i)->widget())
+                add(widget);
+        if (item && item->widget())
+            add(item->widget());
+    };
+    add(m_tabs->parentWidget()->findChild<QWidget *>(QStringLiteral("openDocument")));
+    add(m_preview);
+    add(m_tabs->findChild<QTabBar *>());
+    add(m_list);
+    add(m_presets);
+    for (int row = 0; row < m_common->form()->rowCount(); ++row)
+        for (const auto role : {QFormLayout::FieldRole, QFormLayout::SpanningRole})
+            addItem(m_common->form()->itemAt(row, role));
+    add(m_remember);
+    add(m_panelHome->parentWidget());
+    add(m_summary);
+    add(m_conflictLine);
+    add(m_problems);
+    add(m_print->parentWidget());
+    for (int i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 void PrintDialog::change(const std::function<QStringList(QueueJob &)> &work) {
@@ -356,6 +448,7 @@ void PrintDialog::change(const std::function<QStringList(QueueJob &)> &work) {
 // What follows from a change.
 
 void PrintDialog::takeChange(const QString &option) {
+    pick();
     m_chosenLast = option;
     if (m_job->stage().isOpen())
         if (const ppd_choice_t *choice =
@@ -411,7 +504,10 @@ void PrintDialog::refreshSummary() {
 
 void PrintDialog::refreshPrinter() {
     const QueueInfo *info = m_list->selectedInfo();
-    const QueueProblem problem = info ? queueProblem(*info) : QueueProblem{};
+    QueueProblem problem = info ? queueProblem(*info) : QueueProblem{};
+    m_wasTold = m_wasTold || info;
+    if (!info && m_wasTold)
+        problem = {tr("The server has this printer no longer."), true};
     QString notice;
     if (!m_failure.isNull())
         notice = m_failure;

@@ -58,6 +58,8 @@ public:
     ~PrintDialog() override;
 
     void reject() override;
+    /// Sees to it that a printer stays once the person has done anything with its settings.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QWidget *makeDocumentSide();
@@ -68,6 +70,8 @@ private:
     // The printer.
     void followQueues();
     void takeQueues(const QList<QueueInfo> &queues);
+    void selectDefault();
+    void pick();
     void showQueue();
     void takeDetails(const std::shared_ptr<QueueDetails> &details);
     void showJob(QueueJob &job);
@@ -84,12 +88,14 @@ private:
     void refreshSettings();
     void refreshSummary();
     void refreshPrinter();
+    void orderTabs();
     void leaveTab(int next);
     void savePanel();
     void tell(const QString &headline, const QStringList &lines = {});
 
     // The document and the job.
     void showDocument();
+    void openAnother();
     void chooseDocument();
     bool openDocument(const QString &path);
     void print();
@@ -104,10 +110,12 @@ private:
     std::map<QString, std::unique_ptr<QueueJob>> m_jobs; ///< by queue; null for a file
     QueueJob *m_job = nullptr;                           ///< whose settings are shown
     std::optional<ConflictIndex> m_conflicts;            ///< of m_job
-    QString m_chosenLast;    ///< keyword of the option that the person changed last
-    QString m_failure;       ///< why the chosen printer's settings aren't shown
-    bool m_isPicked = false; ///< the person, or the setup, has chosen a printer
-    int m_tab = 0;           ///< that stands
+    QString m_chosenLast;     ///< keyword of the option that the person changed last
+    QString m_failure;        ///< why the chosen printer's settings aren't shown
+    bool m_isPicked = false;  ///< the person, or the setup, has chosen a printer
+    bool m_isOpening = false; ///< the person looks for a document
+    bool m_wasTold = false;   ///< the server has told the chosen printer
+    int m_tab = 0;            ///< that stands
     QTimer m_refresh;
 
     QStackedWidget *m_pages;

@@ -16,6 +16,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QTabWidget>
 
@@ -41,6 +42,14 @@ bool PrintDialog::openDocument(const QString &path) {
     tell({});
     showDocument();
     return true;
+}
+
+void PrintDialog::openAnother() {
+    {
+        const QScopedValueRollback opening(m_isOpening, true);
+        chooseDocument();
+    }
+    selectDefault(); // which the server may have told meanwhile
 }
 
 void PrintDialog::chooseDocument() {
@@ -82,6 +91,7 @@ QString PrintDialog::askTarget() {
 void PrintDialog::print() {
     if (!m_job)
         return;
+    pick(); // no other printer comes in between
     tell({});
     if (!m_common->problem().isNull() || !m_typed->problem().isNull()) {
         m_tabs->setCurrentIndex(0);

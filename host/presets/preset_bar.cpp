@@ -47,14 +47,20 @@ PresetBar::PresetBar(const PresetStore &store, std::function<Preset()> current, 
     setQueue({});
 }
 
-void PresetBar::setQueue(const QString &queue) {
+bool PresetBar::setQueue(const QString &queue) {
+    if (!m_queue.isEmpty() && m_settled)
+        m_left.insert(m_queue, {m_instances, m_chosen, m_settled, m_lines});
     m_queue = queue;
-    m_instances.clear();
-    m_chosen = {};
-    m_settled.reset();
+    const auto found = m_left.constFind(queue);
+    const bool isKnown = found != m_left.constEnd();
+    const Left left = isKnown ? *found : Left{};
+    m_instances = left.instances;
+    m_chosen = left.chosen;
+    m_settled = left.settled;
     m_changed = false;
-    setProblems({});
     refresh();
+    setProblems(left.lines);
+    return isKnown;
 }
 
 void PresetBar::setInstances(const QStringList &names) {

@@ -2,6 +2,7 @@
 
 #include "host/presets/preset_store.h"
 
+#include <QHash>
 #include <QWidget>
 
 #include <functional>
@@ -28,9 +29,11 @@ public:
     ///                 the bar's business
     PresetBar(const PresetStore &store, std::function<Preset()> current, QWidget *parent = nullptr);
 
-    /// Another queue: its rows are listed and "Printer's defaults" is chosen. Nothing is emitted;
-    /// call settle() once the queue's settings stand.
-    void setQueue(const QString &queue);
+    /// Another queue: its rows are listed. The row chosen is the one from when the queue was left,
+    /// else "Printer's defaults". Nothing is emitted; call settle() once a new queue's settings
+    /// stand, and noteChange() for one that was here before.
+    /// @return whether it was here before
+    bool setQueue(const QString &queue);
     /// Named sets of options that are kept elsewhere, as rows that can't be changed here. They go
     /// with the next setQueue().
     void setInstances(const QStringList &names);
@@ -102,6 +105,14 @@ private:
 
     PresetStore m_store;
     std::function<Preset()> m_current;
+    /// How a queue was left.
+    struct Left {
+        QStringList instances;
+        Row chosen;
+        std::optional<Preset> settled;
+        QStringList lines;
+    };
+    QHash<QString, Left> m_left; ///< by queue
     QString m_queue;
     QStringList m_instances;
     QStringList m_lines; ///< what setProblems() told last

@@ -8,11 +8,12 @@ RememberBox::RememberBox(const PresetStore &store, QWidget *parent)
     setAccessibleDescription(
         tr("If not, they hold for this job only. Passwords aren't remembered."));
     setToolTip(accessibleDescription());
+    connect(this, &QCheckBox::clicked, this, [this](bool on) { m_chosen.insert(m_queue, on); });
 }
 
 void RememberBox::setQueue(const QString &queue) {
     m_queue = queue;
-    setChecked(m_store.hasLastUsed(queue));
+    setChecked(m_chosen.value(queue, m_store.hasLastUsed(queue)));
 }
 
 void RememberBox::keep(const Preset &sent) {

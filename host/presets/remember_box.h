@@ -3,6 +3,7 @@
 #include "host/presets/preset_store.h"
 
 #include <QCheckBox>
+#include <QHash>
 
 namespace host {
 
@@ -14,7 +15,8 @@ class RememberBox : public QCheckBox {
 public:
     explicit RememberBox(const PresetStore &store, QWidget *parent = nullptr);
 
-    /// Another queue: takes up whether its settings are kept.
+    /// Another queue: takes up whether its settings are kept, or what the person has chosen here
+    /// before.
     void setQueue(const QString &queue);
     /// A job was sent: keeps its settings if the person wants that, else forgets those of an
     /// earlier one. @throw HostError
@@ -23,6 +25,7 @@ public:
 private:
     PresetStore m_store;
     QString m_queue;
+    QHash<QString, bool> m_chosen; ///< by queue
 };
 
 } // namespace host

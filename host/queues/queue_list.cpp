@@ -135,6 +135,7 @@ QueueList::QueueList(QWidget *parent)
         m_view->setFocus(); // the button goes
         m_failure = QString();
         m_isLooking = true;
+        m_model->setFailed(false);
         showStatus();
         emit retryAsked();
     });
@@ -161,6 +162,7 @@ void QueueList::setRecent(const QStringList &names) {
 void QueueList::setFailure(const QString &reason) {
     m_failure = reason;
     m_isLooking = false;
+    m_model->setFailed(!reason.isNull());
     showStatus();
 }
 

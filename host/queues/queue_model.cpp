@@ -51,6 +51,11 @@ void QueueModel::setPanel(const QString &queue, const QString &name) {
         emit dataChanged(index(row), index(row));
 }
 
+void QueueModel::setFailed(bool isFailed) {
+    if (std::exchange(m_isFailed, isFailed) != isFailed)
+        emit dataChanged(index(0), index(rowCount() - 1));
+}
+
 void QueueModel::keep(const QString &queue) {
     if (queue == m_kept)
         return;
@@ -127,7 +132,9 @@ QString QueueModel::stateOf(int row, const QueueInfo *info) const {
     if (row == 0)
         return {};
     if (!info)
-        return m_isFilled ? tr("No longer on the server") : tr("Looking for it…");
+        return m_isFilled   ? tr("No longer on the server")
+               : m_isFailed ? tr("Nothing is known of it")
+                            : tr("Looking for it…");
     //: the default printer and its state
     return info->isDefault ? tr("Default · %1").arg(stateLine(*info)) : stateLine(*info);
 }

@@ -27,6 +27,8 @@ public:
     /// Tells that a queue has a panel of its own.
     void setPanel(const QString &queue, const QString &name);
     void setFilter(const QString &words);
+    /// The server can't be asked, so that a queue that isn't told isn't on its way either.
+    void setFailed(bool isFailed);
     /// A queue that stays listed though the server doesn't tell it, or hasn't yet; null for none.
     void keep(const QString &queue);
 
@@ -64,6 +66,7 @@ private:
     QString m_kept;
     QStringList m_rows; ///< names, behind the file's row
     bool m_isFilled = false;
+    bool m_isFailed = false;
 };
 
 } // namespace host

@@ -2,7 +2,6 @@
 
 #include "host/settings/custom_values.h"
 #include "host/settings/number_field.h"
-#include "host/settings/page_ranges.h"
 #include "host/settings/ppd_texts.h"
 #include "host/settings/tool_tip.h"
 #include "platform/views/captioned.h"
@@ -188,21 +187,47 @@ void CommonSettings::showPages() {
     for (QWidget *control : {static_cast<QWidget *>(m_allPages),
                              static_cast<QWidget *>(m_somePages), static_cast<QWidget *>(m_pages)})
         setReason(control, reason);
-    showPagesProblem(reason.isNull() ? m_pagesProblem : QString());
-    if (!m_pagesProblem.isNull())
-        return;
-    const QString now = m_settings ? m_settings->value(Setting::Pages) : QString();
-    (now.isEmpty() ? m_allPages : m_somePages)->setChecked(true);
-    if (!now.isEmpty() && readPageRanges(m_pages->text()).value != now)
-        m_pages->setText(now);
+    if (m_pagesProblem.isNull()) { // what is typed wrong is left
+        const QString now = m_settings ? m_settings->value(Setting::Pages) : QString();
+        (now.isEmpty() ? m_allPages : m_somePages)->setChecked(true);
+        if (!now.isEmpty() && readPageRanges(m_pages->text()).value != now)
+            m_pages->setText(now);
+    }
+    if (reason.isNull())
+        judgePages();
+    else
+        showPagesProblem({});
+}
+
+PageRanges CommonSettings::typedPages() const {
+    const int perSide = qMax(1, m_settings->value(Setting::NumberUp).toInt());
+    return readPageRanges(m_pages->text(), (m_pageCount + perSide - 1) / perSide, perSide > 1);
+}
+
+/// What stands may have come from elsewhere, and be meant for another document.
+void CommonSettings::judgePages() {
+    PageRanges ranges;
+    if (m_somePages->isChecked())
+        ranges = typedPages();
+    m_pagesProblem = ranges.problem;
+    if (m_pagesProblem.isNull())
+        m_settings->setValue(Setting::Pages, ranges.value);
+    showPagesProblem(m_pagesProblem);
 }
 
 void CommonSettings::showPagesProblem(const QString &words) {
     m_pagesWords->setText(words);
     m_pagesWords->setVisible(!words.isEmpty());
-    if (m_pages->isEnabled())
-        m_pages->setAccessibleDescription(
-            words.isEmpty() ? tr("Pages and ranges, parted by commas, such as 1-3,5,9-.") : words);
+    if (!m_pages->isEnabled())
+        return;
+    const bool areSides = m_settings && m_settings->value(Setting::NumberUp).toInt() > 1;
+    const QString hint = areSides
+                             ? tr("Printed sides and ranges of them, parted by commas, such as "
+                                  "1-3,5,9-. With several pages on a side, sides are counted.")
+                             : tr("Pages and ranges, parted by commas, such as 1-3,5,9-.");
+    m_pages->setAccessibleDescription(words.isEmpty() ? hint : words);
+    m_pages->setToolTip(plainToolTip(hint));
+    m_somePages->setText(areSides ? tr("Side&s:") : tr("Page&s:"));
 }
 
 void CommonSettings::fill(const List &list) {
@@ -242,13 +267,7 @@ void CommonSettings::takeCopies() {
 void CommonSettings::takePages() {
     if (m_showing || !m_settings)
         return;
-    PageRanges ranges;
-    if (m_somePages->isChecked())
-        ranges = readPageRanges(m_pages->text(), m_pageCount);
-    m_pagesProblem = ranges.problem;
-    if (m_pagesProblem.isNull())
-        m_settings->setValue(Setting::Pages, ranges.value);
-    showPagesProblem(m_pagesProblem);
+    judgePages();
     emit changed(m_settings->key(Setting::Pages));
 }
 
@@ -277,7 +296,7 @@ void CommonSettings::showProblem() {
         return m_copies->setFocus();
     if (m_pages->isEnabled() && !m_pagesProblem.isNull()) {
         m_pages->setFocus();
-        m_pages->setCursorPosition(readPageRanges(m_pages->text(), m_pageCount).at);
+        m_pages->setCursorPosition(typedPages().at);
         return;
     }
     for (const List &list : std::as_const(m_lists))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/settings/choice_menu.h"
+#include "host/settings/page_ranges.h"
 
 #include <QWidget>
 
@@ -65,6 +66,8 @@ private:
     void choose(const List &list);
     void takeCopies();
     void takePages();
+    PageRanges typedPages() const;
+    void judgePages();
     void showPages();
     void showCopies();
     void showPagesProblem(const QString &words);

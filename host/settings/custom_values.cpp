@@ -95,7 +95,7 @@ void CustomValues::tellRange(const Field &field, const QString &words) {
 
 void CustomValues::makeText(Field &field) {
     const CustomParameter &parameter = field.parameter;
-    auto *edit = parameter.isSecret() ? new SecretField(parameter) : new CustomTextField(parameter);
+    auto *edit = parameter.isSecret() ? new SecretField(parameter) : new QLineEdit;
     field.control = edit;
     field.read = [edit] { return edit->text(); };
     field.show = [edit](const QString &value) {

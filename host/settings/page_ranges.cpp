@@ -28,7 +28,8 @@ bool isDash(QChar c) {
 
 class Reader {
 public:
-    Reader(const QString &text, int pageCount) : m_text(text), m_pageCount(pageCount) {}
+    Reader(const QString &text, int pageCount, bool areSides)
+        : m_text(text), m_pageCount(pageCount), m_areSides(areSides) {}
 
     PageRanges read() {
         do
@@ -75,7 +76,12 @@ private:
         if (page == 0)
             fail(start, HostWords::tr("“%1”: pages count from 1.").arg(typed));
         else if (m_pageCount > 0 && page > m_pageCount)
-            fail(start, m_pageCount == 1
+            fail(start, m_areSides
+                            ? HostWords::tr("“%1”: with several pages on a side the sides are "
+                                            "counted, and the last one is %2.")
+                                  .arg(typed)
+                                  .arg(m_pageCount)
+                        : m_pageCount == 1
                             ? HostWords::tr("“%1”: the document has only one page.").arg(typed)
                             : HostWords::tr("“%1”: the document has only %2 pages.")
                                   .arg(typed)
@@ -133,6 +139,7 @@ private:
 
     const QString &m_text;
     const int m_pageCount;
+    bool m_areSides;
     qsizetype m_at = 0;
     QList<Range> m_ranges;
     PageRanges m_found;
@@ -140,8 +147,8 @@ private:
 
 } // namespace
 
-PageRanges readPageRanges(const QString &text, int pageCount) {
-    return Reader(text, pageCount).read();
+PageRanges readPageRanges(const QString &text, int pageCount, bool areSides) {
+    return Reader(text, pageCount, areSides).read();
 }
 
 } // namespace host

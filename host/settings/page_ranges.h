@@ -14,6 +14,7 @@ struct PageRanges {
 /// Reads "1-3, 5, 9-" and "-4": pages and ranges of pages, parted by commas or semicolons, with
 /// digits of any script. They print in the document's order, so that theirs doesn't matter.
 /// @param pageCount  pages of the document; 0 where that isn't known
-PageRanges readPageRanges(const QString &text, int pageCount = 0);
+/// @param areSides   what is counted are printed sides with several pages each
+PageRanges readPageRanges(const QString &text, int pageCount = 0, bool areSides = false);
 
 } // namespace host

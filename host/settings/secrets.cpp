@@ -63,6 +63,7 @@ bool askSecrets(QWidget *parent, ppd_file_t *ppd) {
     dialog->setObjectName(QStringLiteral("secretsDialog"));
     dialog->setWindowTitle(HostWords::tr("Password for This Job"));
     auto *layout = new QFormLayout(dialog);
+    dialog->setMinimumWidth(dialog->fontMetrics().averageCharWidth() * 48);
     auto *words = new QLabel(HostWords::tr("It isn't kept, and goes with this job only."));
     words->setWordWrap(true);
     layout->addRow(words);
@@ -100,12 +101,16 @@ bool askSecrets(QWidget *parent, ppd_file_t *ppd) {
                 told = fault;
         }
         problem->setText(told.isEmpty() ? QStringLiteral(" ") : told); // the window stays put
+        const int height = layout->totalHeightForWidth(dialog->width());
+        if (dialog->height() < height) // unless the words need more
+            dialog->resize(dialog->width(), height);
         buttons->button(QDialogButtonBox::Ok)->setEnabled(all);
     };
     for (QLineEdit *edit : std::as_const(edits))
         QObject::connect(edit, &QLineEdit::textChanged, dialog, judge);
     QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    dialog->resize(dialog->sizeHint());
     judge();
     const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
     if (accepted) {

@@ -41,6 +41,9 @@ SentView::SentView(QWidget *parent) : QWidget(parent) {
     layout->addWidget(m_words);
     layout->addWidget(m_table, 1);
     layout->addWidget(m_showUnchanged);
+    m_table->setTextElideMode(Qt::ElideMiddle);
+    m_fitColumns.setSingleShot(true);
+    connect(&m_fitColumns, &QTimer::timeout, this, &SentView::fitColumns);
     m_fitRows.setSingleShot(true); // once for all columns, when their widths stand
     connect(&m_fitRows, &QTimer::timeout, m_table, &QTableWidget::resizeRowsToContents);
     connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, this,
@@ -83,12 +86,34 @@ void SentView::showRows(bool unchanged) {
         }
         ++at;
     }
+    fitColumns();
+}
+
+/// All columns as wide as their texts, or the widest of them narrower where there isn't the room.
+void SentView::fitColumns() {
     m_table->resizeColumnsToContents();
-    const int widest = qMax(width() / 3, 24 * fontMetrics().averageCharWidth());
+    QList<int> widths;
+    for (int column = 0; column < kColumns; ++column)
+        widths.append(m_table->columnWidth(column));
+    QList<int> sorted = widths;
+    std::sort(sorted.begin(), sorted.end());
+    int room = m_table->viewport()->width();
+    int widest = sorted.last();
+    for (int i = 0; i < kColumns; ++i) {
+        if (sorted[i] * (kColumns - i) > room) {
+            widest = room / (kColumns - i);
+            break;
+        }
+        room -= sorted[i];
+    }
     for (int column = 0; column < kColumns - 1; ++column) // the last takes the rest
-        if (m_table->columnWidth(column) > widest)
-            m_table->setColumnWidth(column, widest);
+        m_table->setColumnWidth(column, qMin(widths[column], widest));
     m_fitRows.start();
+}
+
+void SentView::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    m_fitColumns.start(); // when the table has its size
 }
 
 } // namespace host

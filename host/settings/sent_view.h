@@ -22,11 +22,14 @@ public:
 
 private:
     void showRows(bool unchanged);
+    void fitColumns();
+    void resizeEvent(QResizeEvent *event) override;
 
     QList<SentRow> m_rows;
     QLabel *m_words;
     QTableWidget *m_table;
     QCheckBox *m_showUnchanged;
+    QTimer m_fitColumns;
     QTimer m_fitRows;
 };
 

@@ -5,13 +5,7 @@
 
 namespace host {
 
-CustomTextField::CustomTextField(const CustomParameter &parameter, QWidget *parent)
-    : QLineEdit(parent) {
-    setMaxLength(int(parameter.greatest));
-}
-
-SecretField::SecretField(const CustomParameter &parameter, QWidget *parent)
-    : CustomTextField(parameter, parent) {
+SecretField::SecretField(const CustomParameter &parameter, QWidget *parent) : QLineEdit(parent) {
     setEchoMode(QLineEdit::Password);
     if (parameter.type == PPD_CUSTOM_PASSCODE) {
         setValidator(

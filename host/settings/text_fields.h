@@ -6,16 +6,9 @@
 
 namespace host {
 
-/// A field for a parameter that is a text. It takes no more than the parameter does.
-class CustomTextField : public QLineEdit {
-    Q_OBJECT
-
-public:
-    explicit CustomTextField(const CustomParameter &parameter, QWidget *parent = nullptr);
-};
-
-/// A field for a password or a PIN: masked, and digits only for the latter.
-class SecretField : public CustomTextField {
+/// A field for a password or a PIN: masked, and digits only for the latter. One that is too long is
+/// taken, so that it can be told; cut, it would be another one.
+class SecretField : public QLineEdit {
     Q_OBJECT
 
 public:

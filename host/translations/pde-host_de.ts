@@ -120,10 +120,6 @@
         <translation>ihre PPD ist zu groß</translation>
     </message>
     <message>
-        <source>the job was cancelled</source>
-        <translation>der Auftrag wurde abgebrochen</translation>
-    </message>
-    <message>
         <source>job %1</source>
         <translation>Auftrag %1</translation>
     </message>
@@ -149,7 +145,7 @@
     </message>
     <message>
         <source>given up</source>
-        <translation>abgebrochen</translation>
+        <translation>aufgegeben</translation>
     </message>
     <message>
         <source>%1 wrote too much</source>
@@ -845,6 +841,14 @@
         <source>has a value that can&apos;t be sent</source>
         <translation>hat einen Wert, der nicht gesendet werden kann</translation>
     </message>
+    <message>
+        <source>was changed since it was opened</source>
+        <translation>wurde seit dem Öffnen geändert</translation>
+    </message>
+    <message>
+        <source>“%1”: with several pages on a side the sides are counted, and the last one is %2.</source>
+        <translation>„%1“: Bei mehreren Seiten je Blattseite zählen die Blattseiten, und die letzte ist %2.</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>
@@ -923,6 +927,14 @@
     <message>
         <source>Copies must be a number from 1 to %1.</source>
         <translation>Exemplare muss eine Zahl von 1 bis %1 sein.</translation>
+    </message>
+    <message>
+        <source>Printed sides and ranges of them, parted by commas, such as 1-3,5,9-. With several pages on a side, sides are counted.</source>
+        <translation>Bedruckte Seiten des Papiers und Bereiche davon, durch Kommas getrennt, etwa 1-3,5,9-. Bei mehreren Seiten je Blattseite zählen die Blattseiten.</translation>
+    </message>
+    <message>
+        <source>Side&amp;s:</source>
+        <translation>Blatt&amp;seiten:</translation>
     </message>
 </context>
 <context>
@@ -1015,6 +1027,25 @@
     <message>
         <source>The file was written.</source>
         <translation>Die Datei wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <translation>aufgegeben</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>The name or the password is wrong.</source>
+        <translation>Der Name oder das Passwort ist falsch.</translation>
+    </message>
+    <message>
+        <source>the server wants to know who you are</source>
+        <translation>der Server möchte wissen, wer Sie sind</translation>
+    </message>
+    <message>
+        <source>the job was cancelled</source>
+        <translation>der Auftrag wurde abgebrochen</translation>
     </message>
 </context>
 <context>
@@ -1266,6 +1297,14 @@
         <source>The document wasn&apos;t printed.</source>
         <translation>Das Dokument wurde nicht gedruckt.</translation>
     </message>
+    <message>
+        <source>A part of the job may be left on the server. It isn&apos;t printed.</source>
+        <translation>Ein Teil des Auftrags kann auf dem Server liegen geblieben sein. Er wird nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>The server has this printer no longer.</source>
+        <translation>Der Server hat diesen Drucker nicht mehr.</translation>
+    </message>
 </context>
 <context>
     <name>host::ProblemArea</name>
@@ -1335,6 +1374,10 @@
     <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Nothing is known of it</source>
+        <translation>Nichts darüber bekannt</translation>
     </message>
 </context>
 <context>

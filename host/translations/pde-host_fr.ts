@@ -120,10 +120,6 @@
         <translation>sa PPD est trop grande</translation>
     </message>
     <message>
-        <source>the job was cancelled</source>
-        <translation>la tâche a été annulée</translation>
-    </message>
-    <message>
         <source>job %1</source>
         <translation>tâche %1</translation>
     </message>
@@ -845,6 +841,14 @@
         <source>has a value that can&apos;t be sent</source>
         <translation>a une valeur qui ne peut pas être envoyée</translation>
     </message>
+    <message>
+        <source>was changed since it was opened</source>
+        <translation>a été modifié depuis son ouverture</translation>
+    </message>
+    <message>
+        <source>“%1”: with several pages on a side the sides are counted, and the last one is %2.</source>
+        <translation>« %1 » : avec plusieurs pages par face, ce sont les faces qui comptent, et la dernière est %2.</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>
@@ -923,6 +927,14 @@
     <message>
         <source>Copies must be a number from 1 to %1.</source>
         <translation>Le nombre de copies doit être compris entre 1 et %1.</translation>
+    </message>
+    <message>
+        <source>Printed sides and ranges of them, parted by commas, such as 1-3,5,9-. With several pages on a side, sides are counted.</source>
+        <translation>Faces imprimées et intervalles de faces, séparés par des virgules, par exemple 1-3,5,9-. Avec plusieurs pages par face, ce sont les faces qui comptent.</translation>
+    </message>
+    <message>
+        <source>Side&amp;s:</source>
+        <translation>Face&amp;s :</translation>
     </message>
 </context>
 <context>
@@ -1015,6 +1027,25 @@
     <message>
         <source>The file was written.</source>
         <translation>Le fichier a été écrit.</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <translation>abandonné</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>The name or the password is wrong.</source>
+        <translation>Le nom ou le mot de passe est incorrect.</translation>
+    </message>
+    <message>
+        <source>the server wants to know who you are</source>
+        <translation>le serveur demande qui vous êtes</translation>
+    </message>
+    <message>
+        <source>the job was cancelled</source>
+        <translation>la tâche a été annulée</translation>
     </message>
 </context>
 <context>
@@ -1266,6 +1297,14 @@
         <source>The document wasn&apos;t printed.</source>
         <translation>Le document n’a pas été imprimé.</translation>
     </message>
+    <message>
+        <source>A part of the job may be left on the server. It isn&apos;t printed.</source>
+        <translation>Une partie de la tâche est peut-être restée sur le serveur. Elle n’est pas imprimée.</translation>
+    </message>
+    <message>
+        <source>The server has this printer no longer.</source>
+        <translation>Le serveur n’a plus cette imprimante.</translation>
+    </message>
 </context>
 <context>
     <name>host::ProblemArea</name>
@@ -1335,6 +1374,10 @@
     <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Nothing is known of it</source>
+        <translation>Rien n’est connu à son sujet</translation>
     </message>
 </context>
 <context>

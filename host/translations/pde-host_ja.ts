@@ -119,10 +119,6 @@
         <translation>PPD が大きすぎます</translation>
     </message>
     <message>
-        <source>the job was cancelled</source>
-        <translation>ジョブはキャンセルされました</translation>
-    </message>
-    <message>
         <source>job %1</source>
         <translation>ジョブ %1</translation>
     </message>
@@ -148,7 +144,7 @@
     </message>
     <message>
         <source>given up</source>
-        <translation>中止</translation>
+        <translation>中止しました</translation>
     </message>
     <message>
         <source>%1 wrote too much</source>
@@ -844,6 +840,14 @@
         <source>has a value that can&apos;t be sent</source>
         <translation>値を送信できません</translation>
     </message>
+    <message>
+        <source>was changed since it was opened</source>
+        <translation>は開いた後に変更されました</translation>
+    </message>
+    <message>
+        <source>“%1”: with several pages on a side the sides are counted, and the last one is %2.</source>
+        <translation>「%1」: 1面に複数のページがあるときは面を数えます。最後は%2です。</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>
@@ -922,6 +926,14 @@
     <message>
         <source>Copies must be a number from 1 to %1.</source>
         <translation>部数は 1 から %1 までの数値です。</translation>
+    </message>
+    <message>
+        <source>Printed sides and ranges of them, parted by commas, such as 1-3,5,9-. With several pages on a side, sides are counted.</source>
+        <translation>印刷する面とその範囲をコンマで区切ります。例: 1-3,5,9-。1面に複数のページがあるときは面を数えます。</translation>
+    </message>
+    <message>
+        <source>Side&amp;s:</source>
+        <translation>面(&amp;S):</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1024,25 @@
     <message>
         <source>The file was written.</source>
         <translation>ファイルを書き込みました。</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <translation>中止しました</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>The name or the password is wrong.</source>
+        <translation>名前またはパスワードが違います。</translation>
+    </message>
+    <message>
+        <source>the server wants to know who you are</source>
+        <translation>サーバーが本人確認を求めています</translation>
+    </message>
+    <message>
+        <source>the job was cancelled</source>
+        <translation>ジョブはキャンセルされました</translation>
     </message>
 </context>
 <context>
@@ -1263,6 +1294,14 @@
         <source>The document wasn&apos;t printed.</source>
         <translation>文書は印刷されませんでした。</translation>
     </message>
+    <message>
+        <source>A part of the job may be left on the server. It isn&apos;t printed.</source>
+        <translation>ジョブの一部がサーバーに残っている可能性があります。印刷はされません。</translation>
+    </message>
+    <message>
+        <source>The server has this printer no longer.</source>
+        <translation>このプリンターはサーバーにもうありません。</translation>
+    </message>
 </context>
 <context>
     <name>host::ProblemArea</name>
@@ -1332,6 +1371,10 @@
     <message>
         <source>%1, %2</source>
         <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>Nothing is known of it</source>
+        <translation>情報がありません</translation>
     </message>
 </context>
 <context>

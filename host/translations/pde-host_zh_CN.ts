@@ -119,10 +119,6 @@
         <translation>其 PPD 过大</translation>
     </message>
     <message>
-        <source>the job was cancelled</source>
-        <translation>作业已取消</translation>
-    </message>
-    <message>
         <source>job %1</source>
         <translation>作业 %1</translation>
     </message>
@@ -844,6 +840,14 @@
         <source>has a value that can&apos;t be sent</source>
         <translation>值无法发送</translation>
     </message>
+    <message>
+        <source>was changed since it was opened</source>
+        <translation>打开后已被更改</translation>
+    </message>
+    <message>
+        <source>“%1”: with several pages on a side the sides are counted, and the last one is %2.</source>
+        <translation>“%1”：每面有多页时按面计数，最后一面是 %2。</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>
@@ -922,6 +926,14 @@
     <message>
         <source>Copies must be a number from 1 to %1.</source>
         <translation>份数必须是 1 到 %1 之间的数字。</translation>
+    </message>
+    <message>
+        <source>Printed sides and ranges of them, parted by commas, such as 1-3,5,9-. With several pages on a side, sides are counted.</source>
+        <translation>要打印的面及其范围，以逗号分隔，例如 1-3,5,9-。每面有多页时按面计数。</translation>
+    </message>
+    <message>
+        <source>Side&amp;s:</source>
+        <translation>面(&amp;S)：</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1024,25 @@
     <message>
         <source>The file was written.</source>
         <translation>文件已写入。</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <translation>已放弃</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>The name or the password is wrong.</source>
+        <translation>名称或密码不正确。</translation>
+    </message>
+    <message>
+        <source>the server wants to know who you are</source>
+        <translation>服务器要求确认您的身份</translation>
+    </message>
+    <message>
+        <source>the job was cancelled</source>
+        <translation>作业已取消</translation>
     </message>
 </context>
 <context>
@@ -1263,6 +1294,14 @@
         <source>The document wasn&apos;t printed.</source>
         <translation>文档未打印。</translation>
     </message>
+    <message>
+        <source>A part of the job may be left on the server. It isn&apos;t printed.</source>
+        <translation>作业的一部分可能留在服务器上，但不会打印。</translation>
+    </message>
+    <message>
+        <source>The server has this printer no longer.</source>
+        <translation>服务器上已没有这台打印机。</translation>
+    </message>
 </context>
 <context>
     <name>host::ProblemArea</name>
@@ -1332,6 +1371,10 @@
     <message>
         <source>%1, %2</source>
         <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>Nothing is known of it</source>
+        <translation>没有相关信息</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,8 @@ namespace views {
 
 namespace {
 
+constexpr QStringView kSpareLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+
 struct Holder {
     Captioned *view;
     QString candidates; ///< the letters that may be marked, best first, in upper case
@@ -140,11 +142,15 @@ void assignInWindow(QWidget *window, const QWidget *root) {
     for (int i = 0; i < holders.size(); ++i) {
         if (placed[i] || holders[i].candidates.isEmpty())
             continue;
-        QChar letter = u'A'; // the title's own letters have run out
-        while (letter < u'Z' && owners.contains(letter))
-            letter = QChar(letter.unicode() + 1);
-        owners.insert(letter, i);
-        holders[i].view->setMnemonic(letter);
+        // The title's own letters have run out; without a free one there is none, since two views
+        // of one letter would only pass the focus to and fro.
+        const auto *const free =
+            std::find_if(kSpareLetters.begin(), kSpareLetters.end(),
+                         [&owners](QChar letter) { return !owners.contains(letter); });
+        if (free == kSpareLetters.end())
+            continue;
+        owners.insert(*free, i);
+        holders[i].view->setMnemonic(*free);
     }
 }
 

@@ -69,7 +69,7 @@ protected:
         setup.plugin = host::loadBundle(BUNDLE_DIR);
         setup.document = host::readDocument(samplePath("sample.ps"));
         setup.store = host::PresetStore(m_folder.path());
-        setup.file = host::openPpdFile(samplePath("velmora-mvo-530.ppd"));
+        setup.file = host::openPpdFile(samplePath("velmora-mvo-540.ppd"));
         m_dialog.emplace(std::move(setup));
         m_dialog->resize(m_dialog->sizeHint());
         m_dialog->show();
@@ -155,13 +155,20 @@ TEST_P(ForEverybody, EachPageIsReachedReadAndHeard) {
         EXPECT_TRUE(QTest::qWaitFor([this] { return clipped().empty(); }, 5000)) << clipped();
 
         // Each view that acts has a name for a screen reader, and its value isn't that name.
-        QSet<const QWidget *> reached;
+        QList<const QWidget *> reached;
         QWidget *view = &*m_dialog;
         do {
             view = view->nextInFocusChain();
-            if (view->isVisible() && view->isEnabled() && (view->focusPolicy() & Qt::TabFocus))
-                reached.insert(view);
+            if (view->isVisible() && view->isEnabled() && !view->focusProxy() &&
+                (view->focusPolicy() & Qt::TabFocus))
+                reached.append(view);
         } while (view != &*m_dialog);
+        const auto *buttons = m_dialog->findChild<QWidget *>("buttons");
+        ASSERT_GT(reached.size(), 4);
+        EXPECT_EQ(reached.first()->objectName(), "openDocument");
+        for (qsizetype i = 0; i < reached.size(); ++i) // "Print" and "Cancel" come last
+            EXPECT_EQ(buttons->isAncestorOf(reached[i]), i >= reached.size() - 2)
+                << nameOf(*reached[i]);
         for (QWidget *acting : seen()) {
             if (!acting->isEnabled() || !(acting->focusPolicy() & Qt::TabFocus) ||
                 acting->focusProxy())

@@ -19,6 +19,7 @@
 #include <QListView>
 #include <QPointer>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
 
@@ -143,11 +144,16 @@ TEST(PrintDialog, KeepsChoicesOfEachPrinterAndPrintsThem) {
         tabs->setCurrentIndex(0);
         auto *presets = find<host::PresetBar>(dialog, "presetBar");
         presets->saveAs("Dark");
+        find<QSpinBox>(dialog, "copies")->setValue(2);
+        auto *remember = find<QCheckBox>(dialog, "rememberSettings");
+        remember->click();
 
         ASSERT_TRUE(wait([&] { return pick(dialog, "Two"); }) && wait(ready));
         EXPECT_FALSE(tabs->isTabVisible(1));
+        EXPECT_FALSE(remember->isChecked());
         ASSERT_TRUE(pick(dialog, "One") && ready() && tabs->isTabVisible(1));
-        presets->setQueue("One"); // as in a window that was opened anew
+        EXPECT_EQ(find<QComboBox>(dialog, "presetList")->currentText(), "Dark (changed)");
+        EXPECT_TRUE(remember->isChecked());
         ASSERT_TRUE(presets->choose("Dark"));
         QLabel *headline = find<QLabel>(dialog, "jobHeadline");
         printButton(dialog)->click();
@@ -175,6 +181,7 @@ TEST(PrintDialog, PrintsToAFileWithoutAServer) {
     ASSERT_GE(letter, 0);
     paper->setCurrentIndex(letter);
     emit paper->activated(letter);
+    find<QCheckBox>(dialog, "rememberSettings")->click();
     EXPECT_FALSE(find<QWidget>(dialog, "copies")->isEnabled()) << "a file has each page once";
 
     const QString target = folder.filePath("out.ps");
@@ -193,4 +200,25 @@ TEST(PrintDialog, PrintsToAFileWithoutAServer) {
         << headline->text().toStdString();
     EXPECT_EQ(printedFeatures(readFile(target)).join(' ').toStdString(),
               "*PageSize Letter *Duplex None");
+    host::PrintDialog another(setupFor(folder));
+    EXPECT_EQ(find<QComboBox>(another, "paperSize")->currentText(), "Letter");
+}
+
+/// The default printer comes by itself, unless the person is at work with another by then.
+TEST(PrintDialog, AnAnswerThatIsLateTakesNothingAway) {
+    CupsDaemon cups;
+    ASSERT_TRUE(cups.start() && cups.addQueue("One", samplePath("velmora-plain.ppd")) &&
+                cups.command("lpadmin", {"-d", "One"}))
+        << cups.log().constData();
+    const ServerInUse server(cups.address());
+    for (const bool acts : {false, true}) {
+        const QTemporaryDir folder;
+        host::PrintDialog dialog(setupFor(folder));
+        dialog.show();
+        if (acts)
+            QTest::keyClick(find<QComboBox>(dialog, "paperSize"), Qt::Key_Up);
+        const auto *list = find<QListView>(dialog, "queueList");
+        ASSERT_TRUE(wait([&] { return list->model()->rowCount() == 2; }));
+        EXPECT_EQ(list->currentIndex().row(), acts ? 0 : 1);
+    }
 }

@@ -204,9 +204,15 @@ TEST(CommonSettings, MarksWhatAPersonChoosesAndGreysTheRest) {
     EXPECT_EQ(told.join(' '), "EFDuplex copies Collate number-up page-ranges page-ranges");
     EXPECT_EQ(text(job.jobOptions()), "copies=2 page-ranges=3-9 number-up=4");
     widget.setPageCount(5);
-    EXPECT_TRUE(widget.problem().contains("only 5 pages"));
+    EXPECT_TRUE(widget.problem().contains("the last one is 2")); // sides of four pages
     widget.findChild<QRadioButton *>("allPages")->click();
     EXPECT_EQ(widget.problem(), QString());
+    job.setValue(host::Setting::Pages, "1-7"); // by a preset that was made for another document
+    widget.setSettings(&job);
+    EXPECT_TRUE(widget.problem().contains("the last one is 2"));
+    pick("numberUp", "1");
+    EXPECT_TRUE(widget.problem().contains("only 5 pages"));
+    widget.findChild<QRadioButton *>("allPages")->click();
 
     markChoice(ppd.get(), "EFDuplex", "None"); // by another panel
     widget.refresh();

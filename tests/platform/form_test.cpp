@@ -61,6 +61,21 @@ TEST(Form, MakesOurViewsAndConnectsOutlets) {
     }
 }
 
+TEST(Mnemonics, AreNeverTheSameForTwo) {
+    QWidget window;
+    QList<ButtonView *> views;
+    for (int i = 0; i < 50; ++i) {
+        views.append(new ButtonView(&window));
+        views.last()->setTitle("a");
+    }
+    views::assignMnemonics(&window);
+    QMap<QKeySequence, int> keys;
+    for (const ButtonView *view : views)
+        ++keys[view->shortcut()];
+    EXPECT_EQ(keys.take({}), 50 - 26 - 10);
+    EXPECT_EQ(keys.values(), QList<int>(26 + 10, 1));
+}
+
 TEST(Mnemonics, AreUniqueWhileLettersLast) {
     // clang-format off
     const std::pair<QStringList, QStringList> cases[] = {
