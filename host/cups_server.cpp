@@ -10,6 +10,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstring>
+#include <exception>
 
 namespace host {
 namespace {
@@ -39,6 +40,17 @@ ipp_t *printerRequest(ipp_op_t operation, const QString &queue,
     if (!attributes.empty())
         ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                       int(attributes.size()), nullptr, attributes.data());
+    return request;
+}
+
+ipp_t *jobRequest(ipp_op_t operation, int job) {
+    ipp_t *request = ippNewRequest(operation);
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
+                     "/jobs/%d", job);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
     return request;
 }
 
@@ -343,12 +355,13 @@ int CupsServer::submit(const CupsJob &job, const std::function<void(qint64)> &pr
     try {
         sendDocument(job, id, progress);
     } catch (const HostError &) {
-        if (!m_watch.isStopped()) {
-            const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
-            if (reconnect()) // the server may still wait for the rest on this connection
-                cupsCancelJob2(m_http.get(), job.queue.toUtf8().constData(), id, 0);
+        const std::exception_ptr reason = std::current_exception();
+        try {
+            if (!m_watch.isStopped() && reconnect()) // the server may wait for the rest on this one
+                cancelJob(id);
+        } catch (const HostError &) { // what came first is what counts
         }
-        throw;
+        std::rethrow_exception(reason);
     }
     return id;
 }
@@ -373,17 +386,14 @@ void CupsServer::sendDocument(const CupsJob &job, int id,
                 HTTP_STATUS_CONTINUE);
     }
     m_watch.restart();
-    require(cupsFinishDocument(m_http.get(), queue.constData()) <= IPP_STATUS_OK_CONFLICTING);
+    // cupsFinishDocument() would take a connection that is lost here for a success.
+    const QByteArray resource = "/printers/" + queue;
+    const IppPtr reply(cupsGetResponse(m_http.get(), resource.constData()));
+    require(reply && isFine(reply));
 }
 
 JobState CupsServer::jobState(int job) {
-    ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
-    char uri[HTTP_MAX_URI];
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
-                     "/jobs/%d", job);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                 cupsUser());
+    ipp_t *request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, job);
     static const char *const wanted[] = {"job-state", "job-printer-state-message",
                                          "job-media-sheets-completed"};
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
@@ -404,11 +414,12 @@ JobState CupsServer::jobState(int job) {
     return state;
 }
 
-void CupsServer::cancelJob(const QString &queue, int job) {
-    const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
-    if (cupsCancelJob2(m_http.get(), queue.toUtf8().constData(), job, 0) >
-        IPP_STATUS_OK_CONFLICTING)
-        throw HostError(HostWords::tr("job %1").arg(job), failure());
+void CupsServer::cancelJob(int job) {
+    ipp_t *request = jobRequest(IPP_OP_CANCEL_JOB, job);
+    const QString subject = HostWords::tr("job %1").arg(job);
+    const IppPtr reply = ask(request, subject, "/jobs/");
+    if (!isFine(reply))
+        throw HostError(subject, failure());
 }
 
 } // namespace host

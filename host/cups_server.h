@@ -117,7 +117,7 @@ public:
     /// @return how a job stands, in the server's words where it has some
     JobState jobState(int job);
     /// Cancels a job that isn't finished yet.
-    void cancelJob(const QString &queue, int job);
+    void cancelJob(int job);
 
 private:
     struct HttpCloser {

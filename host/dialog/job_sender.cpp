@@ -64,11 +64,11 @@ void JobSender::send(const CupsJob &job) {
     m_total = job.document.size();
     m_timer.start(kProgressMs);
     // The server may be slow, so a job that is given up is cancelled when nobody waits for it.
-    const auto tidyUp = [queue = m_queue, asker = QPointer<JobSender>(this),
+    const auto tidyUp = [asker = QPointer<JobSender>(this),
                          home = QCoreApplication::instance()](int id) {
         QThreadPool::globalInstance()->start([=] {
             try {
-                CupsServer().cancelJob(queue, id);
+                CupsServer().cancelJob(id);
             } catch (const HostError &error) {
                 QMetaObject::invokeMethod(
                     home,
@@ -119,9 +119,9 @@ void JobSender::cancel() {
         return giveUpSending();
     inBackground(
         this,
-        [queue = m_queue, job = m_job,
+        [job = m_job,
          password = passwordFromHere([shared = m_shared] { return bool(shared->gone); })] {
-            CupsServer({}, password).cancelJob(queue, job);
+            CupsServer({}, password).cancelJob(job);
             return true;
         },
         [this](bool) { look(); }, [this](const QString &reason) { emit followFailed(reason); });

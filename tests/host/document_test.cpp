@@ -5,6 +5,7 @@
 #include "host/host_error.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -47,6 +48,44 @@ TEST(Document, PostScriptIsBaredOfWhatSurroundsIt) {
     for (const auto &c : cases)
         EXPECT_EQ(bytesOf(host::barePostScript(c.content)), c.isPostScript ? plain : QByteArray())
             << c.name;
+}
+
+/// Memory of a process that was used at most, in bytes.
+qint64 peakOf(qint64 process) {
+    const QByteArray status = readFile(QStringLiteral("/proc/%1/status").arg(process));
+    const qsizetype at = status.indexOf("VmHWM:") + 6;
+    return status.mid(at, status.indexOf("kB", at) - at).trimmed().toLongLong() << 10;
+}
+
+TEST(Document, OfAnySizeTakesLittleMemory) {
+    constexpr qint64 kSize = qint64(300) << 20;
+    QTemporaryDir folder;
+    const QString path = writeFile(folder.path(), "large.ps", "%!PS\n"), to = path + ".out";
+    ASSERT_TRUE(QFile::resize(path, kSize));
+    QProcess host;
+    host.start(HOST_PROGRAM, {"drive", "--ppd", samplePath("velmora-plain.ppd")});
+    const auto ask = [&](const QByteArray &command) {
+        host.write(command + '\n');
+        while (!host.canReadLine() && host.waitForReadyRead(60000)) {
+        }
+        return host.readLine();
+    };
+    ASSERT_TRUE(ask(R"({"do": "state"})").contains("true"));
+    const qint64 before = peakOf(host.processId());
+    EXPECT_TRUE(ask(R"({"do": "print", "document": ")" + path.toUtf8() + R"(", "to": ")" +
+                    to.toUtf8() + "\"}")
+                    .contains("true"));
+    EXPECT_GT(QFile(to).size(), kSize);
+#ifndef __SANITIZE_ADDRESS__ // which keeps what is freed
+    EXPECT_LT(peakOf(host.processId()) - before, 16 << 20);
+#endif
+    EXPECT_GT(before, 1 << 20);
+    host.closeWriteChannel();
+    EXPECT_TRUE(host.waitForFinished());
+
+    const host::Document document = host::readDocument(path);
+    ASSERT_TRUE(QFile::resize(path, 100)); // in its place, while it is open
+    EXPECT_THROW(document.content.read(0, 10), host::HostError);
 }
 
 TEST(Document, PdfIsToldByItsContentAndConverted) {

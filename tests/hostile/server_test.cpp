@@ -3,6 +3,7 @@
 
 #include "support/cups_daemon.h"
 #include "support/ppd_text.h"
+#include "support/run_program.h"
 
 #include "host/bundle_loader.h"
 #include "host/dialog/print_dialog.h"
@@ -10,8 +11,10 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QLocalSocket>
 #include <QPushButton>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -50,10 +53,11 @@ bool wait(Condition condition) {
 
 /// The dialog in the hands of a person.
 struct Person {
-    explicit Person(const QTemporaryDir &folder) {
+    explicit Person(const QTemporaryDir &folder,
+                    const QString &document = samplePath("sample.ps")) {
         host::DialogSetup setup;
         setup.plugin = host::loadBundle(BUNDLE_DIR);
-        setup.document = host::readDocument(samplePath("sample.ps"));
+        setup.document = host::readDocument(document);
         setup.store = host::PresetStore(folder.path());
         setup.queue = "Queue";
         dialog.emplace(std::move(setup));
@@ -89,7 +93,76 @@ struct Person {
     std::optional<host::PrintDialog> dialog;
 };
 
+/// A line to a server whose next connection that sends more than so many bytes is cut, or goes
+/// silent.
+class CutLine : public QTcpServer {
+public:
+    explicit CutLine(const QString &socket) {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this, socket] {
+            QTcpSocket *client = nextPendingConnection();
+            auto *server = new QLocalSocket(client);
+            server->connectToServer(socket);
+            connect(client, &QTcpSocket::readyRead, server,
+                    [this, client, server, sent = qint64(0)]() mutable {
+                        const QByteArray bytes = client->readAll();
+                        sent += bytes.size();
+                        if (most < 0 || sent <= most) {
+                            server->write(bytes);
+                        } else if (most = -1; goesSilent) {
+                            isSilent = true;
+                            client->disconnect(server);
+                        } else {
+                            client->abort();
+                        }
+                    });
+            connect(server, &QLocalSocket::readyRead, client,
+                    [client, server] { client->write(server->readAll()); });
+            connect(server, &QLocalSocket::disconnected, client, &QTcpSocket::disconnectFromHost);
+            connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
+        });
+    }
+    QByteArray address() const { return "127.0.0.1:" + QByteArray::number(serverPort()); }
+
+    qint64 most = -1; ///< bytes; -1 for any number
+    bool goesSilent = false, isSilent = false;
+};
+
 } // namespace
+
+TEST(Sending, ALineThatIsCutOrSilentLosesNothing) {
+    CupsDaemon cups;
+    ASSERT_TRUE(cups.start() && cups.addQueue("Queue", samplePath("velmora-mvo-540.ppd")));
+    CutLine line(cups.address());
+    const ServerInUse server(line.address());
+    const QTemporaryDir folder;
+    const QByteArray comment = "%" + QByteArray(63, 'x') + "\n";
+    Person person(folder, writeFile(folder.path(), "long.ps",
+                                    "%!PS\n" + comment.repeated(1 << 16) + "showpage\n"));
+    ASSERT_TRUE(wait([&] { return person.print()->isEnabled(); }));
+    person.choose();
+    line.most = 1 << 20;
+    person.print()->click();
+    EXPECT_TRUE(wait([&] { return person.told().contains("wasn't printed"); }))
+        << person.view<QLabel>("jobHeadline")->text().toStdString();
+    EXPECT_TRUE(person.hasChosen());
+
+    line.most = 1 << 20;
+    line.goesSilent = true;
+    person.print()->click();
+    ASSERT_TRUE(wait([&] { return line.isSilent; }));
+    person.view<QPushButton>("jobCancel")->click();
+    // Far from the time for which a server is waited for.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return person.print()->isVisible(); }, 5000))
+        << person.view<QLabel>("jobHeadline")->text().toStdString();
+    EXPECT_TRUE(person.hasChosen());
+    QByteArray left;
+    EXPECT_TRUE(wait([&] { return cups.command("lpstat", {"-o"}, &left) && left.isEmpty(); }));
+
+    person.print()->click();
+    EXPECT_TRUE(wait([&] { return person.view<QLabel>("jobState")->text() == "Printed."; }))
+        << person.told().toStdString();
+}
 
 class Hurt : public testing::TestWithParam<std::tuple<Wound, Step>> {};
 
