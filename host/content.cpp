@@ -83,6 +83,10 @@ Content Content::mid(qint64 at, qint64 count) const {
     return part;
 }
 
+QString Content::fileName() const {
+    return m_file ? QStringLiteral("/proc/%1/fd/%2").arg(getpid()).arg(m_file->fd) : QString();
+}
+
 bool Content::startsWith(QByteArrayView text, qint64 at) const {
     return read(at, text.size()) == text;
 }

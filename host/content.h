@@ -30,6 +30,9 @@ public:
     QByteArray read(qint64 at, qint64 count) const;
     /// A part, cut to what there is. Reads nothing.
     Content mid(qint64 at, qint64 count) const;
+    /// A name by which other programs can open the whole file while a copy of this content lives,
+    /// also one that was removed or replaced (proc(5)); null for memory.
+    QString fileName() const;
     bool startsWith(QByteArrayView text, qint64 at = 0) const;
     /// @return where the text stands at or behind `from`; -1 if nowhere
     qint64 indexOf(QByteArrayView text, qint64 from) const;

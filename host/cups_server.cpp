@@ -400,9 +400,12 @@ JobState CupsServer::jobState(int job) {
                   int(std::size(wanted)), nullptr, wanted);
     const QString subject = HostWords::tr("job %1").arg(job);
     const IppPtr reply = ask(request, subject);
+    JobState state;
+    state.isGone = ippGetStatusCode(reply.get()) == IPP_STATUS_ERROR_NOT_FOUND;
+    if (state.isGone)
+        return state;
     if (!isFine(reply))
         throw HostError(subject, failure());
-    JobState state;
     if (ipp_attribute_t *found = ippFindAttribute(reply.get(), "job-state", IPP_TAG_ENUM))
         state.state = static_cast<ipp_jstate_t>(ippGetInteger(found, 0));
     if (ipp_attribute_t *found =

@@ -52,10 +52,11 @@ using PasswordSource = std::function<std::optional<Credentials>(const QString &p
 /// How a job stands.
 struct JobState {
     ipp_jstate_t state = IPP_JSTATE_PENDING;
-    QString message; ///< the printer's or the filter's own words; may be empty
-    int pages = 0;   ///< printed so far, as far as the queue counts them
+    QString message;     ///< the printer's or the filter's own words; may be empty
+    int pages = 0;       ///< printed so far, as far as the queue counts them
+    bool isGone = false; ///< the server has forgotten it, as some do with jobs that are done
 
-    bool isFinished() const { return state >= IPP_JSTATE_CANCELED; }
+    bool isFinished() const { return isGone || state >= IPP_JSTATE_CANCELED; }
 };
 
 /// A job to send.

@@ -104,6 +104,7 @@ Content run(const Converter &converter, const Document &document, const QStringL
         process.waitForFinished(-1);
         throw HostError(document.path, error);
     }
+    document.content.read(0, 1);                     // is what it was
     const Content content = Content::ofFile(result); // which is kept while this is
     const QString complaint =
         QString::fromLocal8Bit(process.readAllStandardError()).section(u'\n', 0, 0);
@@ -174,8 +175,7 @@ Content toPostScript(const Document &document, const std::atomic<bool> *givenUp)
     for (const Converter &converter : kConverters)
         if (isInstalled(converter))
             return run(converter, document,
-                       converter.arguments +
-                           QStringList{QFileInfo(document.path).absoluteFilePath()} +
+                       converter.arguments + QStringList{document.content.fileName()} +
                            converter.output,
                        {}, "PostScript", "%!", givenUp);
     throw HostError(document.path,

@@ -97,6 +97,7 @@ void JobPage::end(const QString &headline, const QString &state) {
     m_headline->setText(headline);
     m_bar->hide();
     m_cancel->setText(tr("Cancel &Job"));
+    m_cancel->setEnabled(true); // also behind a Cancel that came too late
     m_cancel->setVisible(!m_isFinished);
     m_close->show();
     m_close->setDefault(true);
@@ -160,6 +161,8 @@ void JobPage::send(const CupsJob &job) {
 
 void JobPage::showState(const JobState &state) {
     const QString words = [&] {
+        if (state.isGone)
+            return tr("The server no longer knows the job; it is done.");
         switch (state.state) {
         case IPP_JSTATE_PENDING:
             return tr("Waiting to be printed.");

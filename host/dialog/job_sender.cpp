@@ -141,8 +141,8 @@ void JobSender::look() {
             m_asking = false;
             if (state.isFinished())
                 m_timer.stop();
-            if (m_hasState && state.state == m_state.state && state.message == m_state.message &&
-                state.pages == m_state.pages)
+            if (m_hasState && state.isGone == m_state.isGone && state.state == m_state.state &&
+                state.message == m_state.message && state.pages == m_state.pages)
                 return;
             m_hasState = true;
             m_state = state;

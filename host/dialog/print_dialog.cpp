@@ -23,12 +23,12 @@
 #include <QFormLayout>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -97,7 +97,8 @@ PrintDialog::PrintDialog(DialogSetup setup) : m_setup(std::move(setup)) {
     connect(m_jobPage, &JobPage::done, this, &PrintDialog::finish);
     connect(m_jobPage, &JobPage::failed, this, &PrintDialog::backToForm);
     connect(m_jobPage, &JobPage::leftBehind, this, [this](const QString &reason) {
-        tell(tr("A part of the job may be left on the server. It isn't printed."), {reason});
+        tell(tr("The job couldn't be cancelled on the server, and may still be printed."),
+             {reason});
     });
     connect(m_jobPage, &JobPage::closed, this, &QDialog::accept);
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] {
@@ -133,10 +134,8 @@ QWidget *PrintDialog::makeDocumentSide() {
     layout->addLayout(row);
     m_preview = new PreviewView;
     layout->addWidget(m_preview, 1);
-    connect(m_preview, &PreviewView::pageCountKnown, this, [this](int count) {
-        const QScopedValueRollback isPicked(m_isPicked); // nobody's act
-        m_common->setPageCount(count);
-    });
+    connect(m_preview, &PreviewView::pageCountKnown, this,
+            [this](int count) { m_common->setPageCount(count); });
     return side;
 }
 
@@ -151,6 +150,8 @@ QWidget *PrintDialog::makeTabs() {
     m_tabs->addTab(new PageArea(panelPage), {});
     m_tabs->addTab(new PageArea(m_summary), tr("Summary"));
     m_tabs->setTabVisible(kPanelTab, false);
+    m_tabs->setFocusPolicy(Qt::NoFocus); // the bar alone is a stop of the Tab key
+    m_tabs->tabBar()->setFocusPolicy(Qt::TabFocus);
     connect(m_tabs, &QTabWidget::currentChanged, this, &PrintDialog::leaveTab);
     return m_tabs;
 }
@@ -181,6 +182,10 @@ QWidget *PrintDialog::makeGeneralPage() {
     layout->addWidget(m_settingsPart);
 
     connect(m_common, &CommonSettings::changed, this, &PrintDialog::takeChange);
+    connect(m_common, &CommonSettings::pagesJudged, this, [this] {
+        m_presets->noteChange();
+        refreshSoon();
+    });
     connect(m_typed, &TypedOptions::changed, this, &PrintDialog::takeChange);
     connect(m_presets, &PresetBar::chosen, this, [this](const Preset *preset) {
         change([preset](QueueJob &job) { return preset ? job.use(*preset) : job.useDefaults(); });
@@ -273,8 +278,10 @@ void PrintDialog::pick() {
 bool PrintDialog::eventFilter(QObject *watched, QEvent *event) {
     const auto isOfSettings = [&] {
         const auto *widget = qobject_cast<QWidget *>(watched);
-        return widget && (m_settingsPart->isAncestorOf(widget) ||
-                          m_panelHome->parentWidget()->isAncestorOf(widget));
+        const QWidget *const list = m_list->focusProxy(); // on the row that is chosen already
+        return widget &&
+               (m_settingsPart->isAncestorOf(widget) || list == widget ||
+                list->isAncestorOf(widget) || m_panelHome->parentWidget()->isAncestorOf(widget));
     };
     switch (event->type()) {
     case QEvent::KeyPress: {
@@ -343,9 +350,9 @@ void PrintDialog::showJob(QueueJob &job) {
     m_job = &job;
     m_chosenLast.clear();
     m_conflicts.emplace(job.ppd());
-    const bool wasHere = m_presets->setQueue(job.queue());
+    const bool wasHere = m_presets->setQueue(job.queue(), job.isToFile());
     m_presets->setInstances(job.instances());
-    m_remember->setQueue(job.queue());
+    m_remember->setQueue(job.queue(), job.isToFile());
     openPanel();
     showSettings();
     wasHere ? m_presets->noteChange() : m_presets->settle();
@@ -418,7 +425,7 @@ void PrintDialog::orderTabs() {
     };
     add(m_tabs->parentWidget()->findChild<QWidget *>(QStringLiteral("openDocument")));
     add(m_preview);
-    add(m_tabs->findChild<QTabBar *>());
+    add(m_tabs->tabBar());
     add(m_list);
     add(m_presets);
     for (int row = 0; row < m_common->form()->rowCount(); ++row)

@@ -47,17 +47,18 @@ PresetBar::PresetBar(const PresetStore &store, std::function<Preset()> current, 
     setQueue({});
 }
 
-bool PresetBar::setQueue(const QString &queue) {
-    if (!m_queue.isEmpty() && m_settled)
-        m_left.insert(m_queue, {m_instances, m_chosen, m_settled, m_lines});
+bool PresetBar::setQueue(const QString &queue, bool toFile) {
+    if (!m_queue.isEmpty() && (m_settled || m_changed))
+        m_left.insert({m_queue, m_toFile}, {m_instances, m_chosen, m_settled, m_changed, m_lines});
     m_queue = queue;
-    const auto found = m_left.constFind(queue);
+    m_toFile = toFile;
+    const auto found = m_left.constFind({queue, toFile});
     const bool isKnown = found != m_left.constEnd();
     const Left left = isKnown ? *found : Left{};
     m_instances = left.instances;
     m_chosen = left.chosen;
     m_settled = left.settled;
-    m_changed = false;
+    m_changed = left.changed;
     refresh();
     setProblems(left.lines);
     return isKnown;

@@ -33,7 +33,8 @@ public:
     /// else "Printer's defaults". Nothing is emitted; call settle() once a new queue's settings
     /// stand, and noteChange() for one that was here before.
     /// @return whether it was here before
-    bool setQueue(const QString &queue);
+    /// @param toFile  the name is that of a PPD, whatever queue is called so
+    bool setQueue(const QString &queue, bool toFile = false);
     /// Named sets of options that are kept elsewhere, as rows that can't be changed here. They go
     /// with the next setQueue().
     void setInstances(const QStringList &names);
@@ -110,9 +111,11 @@ private:
         QStringList instances;
         Row chosen;
         std::optional<Preset> settled;
+        bool changed = false;
         QStringList lines;
     };
-    QHash<QString, Left> m_left; ///< by queue
+    QHash<std::pair<QString, bool>, Left> m_left; ///< by queue, or file
+    bool m_toFile = false;
     QString m_queue;
     QStringList m_instances;
     QStringList m_lines; ///< what setProblems() told last

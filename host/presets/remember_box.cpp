@@ -8,12 +8,15 @@ RememberBox::RememberBox(const PresetStore &store, QWidget *parent)
     setAccessibleDescription(
         tr("If not, they hold for this job only. Passwords aren't remembered."));
     setToolTip(accessibleDescription());
-    connect(this, &QCheckBox::clicked, this, [this](bool on) { m_chosen.insert(m_queue, on); });
+    connect(this, &QCheckBox::toggled, this, [this](bool on) {
+        m_chosen.insert({m_queue, m_toFile}, on);
+    });
 }
 
-void RememberBox::setQueue(const QString &queue) {
+void RememberBox::setQueue(const QString &queue, bool toFile) {
     m_queue = queue;
-    setChecked(m_chosen.value(queue, m_store.hasLastUsed(queue)));
+    m_toFile = toFile;
+    setChecked(m_chosen.value({queue, toFile}, m_store.hasLastUsed(queue)));
 }
 
 void RememberBox::keep(const Preset &sent) {

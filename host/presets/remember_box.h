@@ -17,7 +17,8 @@ public:
 
     /// Another queue: takes up whether its settings are kept, or what the person has chosen here
     /// before.
-    void setQueue(const QString &queue);
+    /// @param toFile  the name is that of a PPD, whatever queue is called so
+    void setQueue(const QString &queue, bool toFile = false);
     /// A job was sent: keeps its settings if the person wants that, else forgets those of an
     /// earlier one. @throw HostError
     void keep(const Preset &sent);
@@ -25,7 +26,8 @@ public:
 private:
     PresetStore m_store;
     QString m_queue;
-    QHash<QString, bool> m_chosen; ///< by queue
+    bool m_toFile = false;
+    QHash<std::pair<QString, bool>, bool> m_chosen; ///< by queue, or file
 };
 
 } // namespace host

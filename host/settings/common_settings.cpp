@@ -210,8 +210,8 @@ void CommonSettings::judgePages() {
     if (m_somePages->isChecked())
         ranges = typedPages();
     m_pagesProblem = ranges.problem;
-    if (m_pagesProblem.isNull())
-        m_settings->setValue(Setting::Pages, ranges.value);
+    // Of what can't be read nothing holds, not even its beginning.
+    m_settings->setValue(Setting::Pages, ranges.problem.isNull() ? ranges.value : QString());
     showPagesProblem(m_pagesProblem);
 }
 
@@ -275,7 +275,10 @@ void CommonSettings::setPageCount(int count) {
     if (m_pageCount == count)
         return;
     m_pageCount = count;
-    takePages();
+    if (!m_settings)
+        return;
+    judgePages();
+    emit pagesJudged();
 }
 
 QString CommonSettings::problem() const {

@@ -50,6 +50,8 @@ signals:
     /// comes or goes.
     /// @param option  the PPD's keyword or CUPS' name
     void changed(const QString &option);
+    /// The page ranges were judged anew for another document; a problem may have come or gone.
+    void pagesJudged();
 
 private:
     struct List {

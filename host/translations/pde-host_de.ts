@@ -1032,6 +1032,10 @@
         <source>given up</source>
         <translation>aufgegeben</translation>
     </message>
+    <message>
+        <source>The server no longer knows the job; it is done.</source>
+        <translation>Der Server kennt den Auftrag nicht mehr; er ist erledigt.</translation>
+    </message>
 </context>
 <context>
     <name>host::JobSender</name>
@@ -1298,12 +1302,12 @@
         <translation>Das Dokument wurde nicht gedruckt.</translation>
     </message>
     <message>
-        <source>A part of the job may be left on the server. It isn&apos;t printed.</source>
-        <translation>Ein Teil des Auftrags kann auf dem Server liegen geblieben sein. Er wird nicht gedruckt.</translation>
-    </message>
-    <message>
         <source>The server has this printer no longer.</source>
         <translation>Der Server hat diesen Drucker nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The job couldn&apos;t be cancelled on the server, and may still be printed.</source>
+        <translation>Der Auftrag konnte auf dem Server nicht abgebrochen werden und wird vielleicht noch gedruckt.</translation>
     </message>
 </context>
 <context>

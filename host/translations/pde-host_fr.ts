@@ -1032,6 +1032,10 @@
         <source>given up</source>
         <translation>abandonné</translation>
     </message>
+    <message>
+        <source>The server no longer knows the job; it is done.</source>
+        <translation>Le serveur ne connaît plus la tâche ; elle est terminée.</translation>
+    </message>
 </context>
 <context>
     <name>host::JobSender</name>
@@ -1298,12 +1302,12 @@
         <translation>Le document n’a pas été imprimé.</translation>
     </message>
     <message>
-        <source>A part of the job may be left on the server. It isn&apos;t printed.</source>
-        <translation>Une partie de la tâche est peut-être restée sur le serveur. Elle n’est pas imprimée.</translation>
-    </message>
-    <message>
         <source>The server has this printer no longer.</source>
         <translation>Le serveur n’a plus cette imprimante.</translation>
+    </message>
+    <message>
+        <source>The job couldn&apos;t be cancelled on the server, and may still be printed.</source>
+        <translation>La tâche n’a pas pu être annulée sur le serveur et sera peut-être encore imprimée.</translation>
     </message>
 </context>
 <context>

@@ -1029,6 +1029,10 @@
         <source>given up</source>
         <translation>中止しました</translation>
     </message>
+    <message>
+        <source>The server no longer knows the job; it is done.</source>
+        <translation>サーバーにはこのジョブはもうありません。処理は終わっています。</translation>
+    </message>
 </context>
 <context>
     <name>host::JobSender</name>
@@ -1295,12 +1299,12 @@
         <translation>文書は印刷されませんでした。</translation>
     </message>
     <message>
-        <source>A part of the job may be left on the server. It isn&apos;t printed.</source>
-        <translation>ジョブの一部がサーバーに残っている可能性があります。印刷はされません。</translation>
-    </message>
-    <message>
         <source>The server has this printer no longer.</source>
         <translation>このプリンターはサーバーにもうありません。</translation>
+    </message>
+    <message>
+        <source>The job couldn&apos;t be cancelled on the server, and may still be printed.</source>
+        <translation>サーバー上でジョブをキャンセルできませんでした。印刷される可能性があります。</translation>
     </message>
 </context>
 <context>

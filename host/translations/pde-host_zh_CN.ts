@@ -1029,6 +1029,10 @@
         <source>given up</source>
         <translation>已放弃</translation>
     </message>
+    <message>
+        <source>The server no longer knows the job; it is done.</source>
+        <translation>服务器上已没有该作业；它已处理完毕。</translation>
+    </message>
 </context>
 <context>
     <name>host::JobSender</name>
@@ -1295,12 +1299,12 @@
         <translation>文档未打印。</translation>
     </message>
     <message>
-        <source>A part of the job may be left on the server. It isn&apos;t printed.</source>
-        <translation>作业的一部分可能留在服务器上，但不会打印。</translation>
-    </message>
-    <message>
         <source>The server has this printer no longer.</source>
         <translation>服务器上已没有这台打印机。</translation>
+    </message>
+    <message>
+        <source>The job couldn&apos;t be cancelled on the server, and may still be printed.</source>
+        <translation>无法在服务器上取消该作业，它可能仍会被打印。</translation>
     </message>
 </context>
 <context>

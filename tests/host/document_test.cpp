@@ -94,6 +94,7 @@ TEST(Document, PdfIsToldByItsContentAndConverted) {
     ASSERT_TRUE(QFile::copy(samplePath("sample.pdf"), path));
     const host::Document document = host::readDocument(path);
     EXPECT_EQ(document.type, host::Document::Type::Pdf);
+    QFile::remove(path); // what was opened is what is printed
     const QByteArray text = bytesOf(host::toPostScript(document));
     EXPECT_TRUE(text.startsWith("%!PS-Adobe-"));
     EXPECT_TRUE(text.contains("%%Page: 2 2"));

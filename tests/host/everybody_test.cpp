@@ -74,6 +74,8 @@ protected:
         m_dialog->resize(m_dialog->sizeHint());
         m_dialog->show();
         m_tabs = m_dialog->findChild<QTabWidget *>("pages");
+        const auto *retry = m_dialog->findChild<QWidget *>("retry");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return retry->isVisible(); }, 30000)); // without a server
     }
     void TearDown() override {
         m_dialog.reset();
@@ -155,17 +157,15 @@ TEST_P(ForEverybody, EachPageIsReachedReadAndHeard) {
         EXPECT_TRUE(QTest::qWaitFor([this] { return clipped().empty(); }, 5000)) << clipped();
 
         // Each view that acts has a name for a screen reader, and its value isn't that name.
-        QList<const QWidget *> reached;
-        QWidget *view = &*m_dialog;
+        QList<const QWidget *> reached; // by the key itself, from the first view on
+        m_dialog->activateWindow();
+        m_dialog->findChild<QWidget *>("openDocument")->setFocus();
         do {
-            view = view->nextInFocusChain();
-            if (view->isVisible() && view->isEnabled() && !view->focusProxy() &&
-                (view->focusPolicy() & Qt::TabFocus))
-                reached.append(view);
-        } while (view != &*m_dialog);
+            reached.append(QApplication::focusWidget());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        } while (QApplication::focusWidget() != reached.first() && reached.size() < 200);
         const auto *buttons = m_dialog->findChild<QWidget *>("buttons");
         ASSERT_GT(reached.size(), 4);
-        EXPECT_EQ(reached.first()->objectName(), "openDocument");
         for (qsizetype i = 0; i < reached.size(); ++i) // "Print" and "Cancel" come last
             EXPECT_EQ(buttons->isAncestorOf(reached[i]), i >= reached.size() - 2)
                 << nameOf(*reached[i]);

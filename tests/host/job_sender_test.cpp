@@ -71,20 +71,6 @@ TEST(JobSender, SendsFollowsAndCancels) {
         ASSERT_TRUE(waitFor([&] { return told.state->isFinished(); }));
         EXPECT_EQ(told.state->state, IPP_JSTATE_CANCELED);
     }
-    {
-        host::JobSender sender;
-        const Told told(sender);
-        job.document = QByteArray(64 << 20, ' ');
-        sender.send(job);
-        sender.cancel(); // before all of it is there
-        ASSERT_TRUE(waitFor([&] { return !told.failure.isEmpty(); }));
-        EXPECT_EQ(told.failure, "Queue: the job was cancelled");
-        EXPECT_EQ(told.job, 0);
-        QByteArray waiting;
-        EXPECT_TRUE(waitFor([&] { // it is tidied up when nobody waits for it
-            return cups.command("lpstat", {"-o"}, &waiting) && waiting.isEmpty();
-        })) << waiting.constData();
-    }
     qunsetenv("CUPS_SERVER");
 }
 
