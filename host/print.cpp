@@ -2,7 +2,6 @@
 
 #include "host/bundle_loader.h"
 #include "host/command_line.h"
-#include "host/cups_server.h"
 #include "host/document.h"
 #include "host/drive_state.h"
 #include "host/files.h"
@@ -59,12 +58,17 @@ void writeJob(PanelStage &stage, const Document &document, const Sink &sink) {
     writePsJob(psCode(stage.source().ppd.get(), title), toPostScript(document), title, sink);
 }
 
-int sendToCups(PanelStage &stage, const Document &document) {
+CupsJob cupsJob(const QString &queue, const Document &document) {
     CupsJob job;
-    job.queue = stage.source().printer.id;
+    job.queue = queue;
     job.title = QFileInfo(document.path).fileName();
     job.format = document.type == Document::Type::Pdf ? CUPS_FORMAT_PDF : CUPS_FORMAT_POSTSCRIPT;
     job.document = document.content;
+    return job;
+}
+
+int sendToCups(PanelStage &stage, const Document &document) {
+    CupsJob job = cupsJob(stage.source().printer.id, document);
     OptionList others;
     for (auto option = stage.jobOptions().begin(); option != stage.jobOptions().end(); ++option)
         others.append({option.key(), option.value()});

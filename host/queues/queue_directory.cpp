@@ -24,15 +24,17 @@ void markDefault(QList<QueueInfo> &queues, const QStringList &names) {
     }
 }
 
+/// @param text  null for a queue without a PPD
+PpdSource sourceOf(const QByteArray &text, const QString &queue) {
+    return text.isNull() ? PpdSource{nullptr, Printer{queue}} : openPpdText(text, queue);
+}
+
+} // namespace
+
 QList<QueueInfo> readQueues(CupsServer &server) {
     QList<QueueInfo> queues = queuesOf(server.printers(queueAttributes()).get());
     markDefault(queues, readUserOptions().defaults + QStringList{server.findDefaultQueue()});
     return queues;
-}
-
-/// @param text  null for a queue without a PPD
-PpdSource sourceOf(const QByteArray &text, const QString &queue) {
-    return text.isNull() ? PpdSource{nullptr, Printer{queue}} : openPpdText(text, queue);
 }
 
 std::shared_ptr<QueueDetails> readDetails(CupsServer &server, const QString &queue) {
@@ -42,8 +44,6 @@ std::shared_ptr<QueueDetails> readDetails(CupsServer &server, const QString &que
     details->source = sourceOf(server.findPpd(queue), queue);
     return details;
 }
-
-} // namespace
 
 QueueDirectory::QueueDirectory(const CupsDeadlines &deadlines, QObject *parent)
     : QObject(parent), m_deadlines(deadlines) {

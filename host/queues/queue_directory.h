@@ -22,6 +22,12 @@ struct QueueDetails {
     UserOptions userOptions{};
 };
 
+/// Asks a server for its queues and waits for the answer; for a thread that may wait. One queue at
+/// most is the default: that of the person, of the machine, or of the server. @throw HostError
+QList<QueueInfo> readQueues(CupsServer &server);
+/// Asks a server for a queue's details and waits for the answer, as above. @throw HostError
+std::shared_ptr<QueueDetails> readDetails(CupsServer &server, const QString &queue);
+
 /// The queues of the CUPS server, asked for in the background and followed for as long as this
 /// object lives. Used on the interface's thread; never waits for the server, not even at its end.
 class QueueDirectory : public QObject {

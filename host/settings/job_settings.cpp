@@ -1,6 +1,8 @@
 #include "host/settings/job_settings.h"
 
+#include "host/presets/preset.h"
 #include "host/settings/cups_forms.h"
+#include "host/settings/custom_parameters.h"
 #include "host/settings/page_ranges.h"
 #include "host/settings/ppd_texts.h"
 #include "host/words.h"
@@ -134,6 +136,11 @@ QList<SettingChoice> choicesOf(const ppd_option_t &option) {
     return list;
 }
 
+QString defaultChoice(const ppd_option_t &option, const OptionList &serverDefaults) {
+    const auto told = defaultValue(serverDefaults, QString::fromUtf8(option.keyword));
+    return told && findChoice(option, *told) ? *told : QString::fromUtf8(option.defchoice);
+}
+
 const QList<Setting> &JobSettings::all() {
     static const QList<Setting> settings = [] {
         QList<Setting> list;
@@ -172,6 +179,23 @@ QString JobSettings::key(Setting setting) const {
         return QString::fromUtf8(option->keyword);
     const Home &home = homeOf(setting);
     return QLatin1String(home.cupsOption ? home.cupsOption : home.ppdOptions.first());
+}
+
+QString JobSettings::nameOf(Setting setting) const {
+    if (const ppd_option_t *option = ppdOption(setting))
+        return optionText(*option);
+    switch (setting) {
+    case Setting::Copies:
+        return HostWords::tr("Copies");
+    case Setting::Collate:
+        return HostWords::tr("Collate");
+    case Setting::Pages:
+        return HostWords::tr("Pages");
+    case Setting::Orientation:
+        return HostWords::tr("Orientation");
+    default:
+        return HostWords::tr("Pages per side");
+    }
 }
 
 QString JobSettings::whyNot(Setting setting) const {
@@ -218,9 +242,9 @@ QString JobSettings::value(Setting setting) const {
 }
 
 QString JobSettings::queueDefault(Setting setting) const {
-    const auto told = defaultValue(m_serverDefaults, key(setting));
     if (const ppd_option_t *option = ppdOption(setting))
-        return told && findChoice(*option, *told) ? *told : QString::fromUtf8(option->defchoice);
+        return defaultChoice(*option, m_serverDefaults);
+    const auto told = defaultValue(m_serverDefaults, key(setting));
     const auto usable = told ? cleaned(setting, *told) : std::nullopt;
     return usable ? *usable : QLatin1String(homeOf(setting).cupsDefault);
 }
@@ -294,9 +318,11 @@ OptionList JobSettings::takeOptions(const OptionList &options, QStringList *prob
     OptionList others;
     for (const auto &[name, value] : options) {
         bool taken = false;
-        if (!takeOption(name, value, &taken) && problems)
-            problems->append(
-                HostWords::tr("%1: “%2” can't be used with this printer").arg(name, value));
+        if (!takeOption(name, value, &taken) && problems) {
+            const bool isPrivate = isCustom(value) || isSecretKey(name); // it may be a PIN
+            problems->append(HostWords::tr("%1: “%2” can't be used with this printer")
+                                 .arg(name, isPrivate ? redacted(value) : value));
+        }
         if (!taken)
             others.append({name, value});
     }

@@ -31,6 +31,10 @@ struct SettingChoice {
 /// The choices of a PPD's option, in its order.
 QList<SettingChoice> choicesOf(const ppd_option_t &option);
 
+/// The default of a PPD's option: the server's word where the option has such a choice, else the
+/// PPD's. May be a custom value.
+QString defaultChoice(const ppd_option_t &option, const OptionList &serverDefaults);
+
 /// The common settings of one job, without widgets. Used on the interface's thread.
 ///
 /// Each has one home: an option of the PPD, then its value is that option's mark, which panels and
@@ -56,6 +60,8 @@ public:
     bool isOfCups(Setting setting) const;
     /// The name of the setting's home: the PPD's keyword, or the name of CUPS' option.
     QString key(Setting setting) const;
+    /// What a setting is called, for a person.
+    QString nameOf(Setting setting) const;
     /// @return why a setting doesn't apply, a sentence for a person; null where it does
     QString whyNot(Setting setting) const;
 

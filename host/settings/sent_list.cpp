@@ -64,12 +64,6 @@ private:
         return m_unlisted.remove(name.toLower()) ? name + u'=' + shown : QString();
     }
 
-    /// The default of a PPD's option: the server's word, else the PPD's.
-    QString defaultChoice(const ppd_option_t &option) const {
-        const auto told = defaultValue(m_what.serverDefaults, QString::fromUtf8(option.keyword));
-        return told && findChoice(option, *told) ? *told : QString::fromUtf8(option.defchoice);
-    }
-
     void addOption(const ppd_group_t &group, const ppd_option_t &option) {
         const QString keyword = QString::fromUtf8(option.keyword);
         QStringList texts, keywords;
@@ -92,7 +86,7 @@ private:
         // Of size and region one is marked; the other isn't a setting then.
         if (keywords.isEmpty() && !qstricmp(option.keyword, "PageRegion"))
             return;
-        const QString usual = defaultChoice(option);
+        const QString usual = defaultChoice(option, m_what.serverDefaults);
         const ppd_choice_t *usualChoice = findChoice(option, usual);
         SentRow row;
         row.group = groupText(group);
@@ -129,28 +123,13 @@ private:
         const QString usual = m_what.job->queueDefault(setting);
         SentRow row;
         row.group = HostWords::tr("Job");
-        row.option = nameOf(setting);
+        row.option = m_what.job->nameOf(setting);
         row.queueDefault = m_what.job->textOf(setting, usual);
         row.chosen = m_what.job->textOf(setting, value);
         row.isChanged = value != usual;
         if (const auto told = optionValue(m_options, key))
             row.sent = take(key, *told);
         m_rows.append(row);
-    }
-
-    static QString nameOf(Setting setting) {
-        switch (setting) {
-        case Setting::Copies:
-            return HostWords::tr("Copies");
-        case Setting::Collate:
-            return HostWords::tr("Collate");
-        case Setting::Pages:
-            return HostWords::tr("Pages");
-        case Setting::Orientation:
-            return HostWords::tr("Orientation");
-        default:
-            return HostWords::tr("Pages per side");
-        }
     }
 
     void addOther(const QString &name, const QString &value) {
