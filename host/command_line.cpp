@@ -19,7 +19,7 @@ struct CommandRow {
 constexpr CommandRow kCommands[] = {
     {"dialog", Command::Dialog, true},    {"print", Command::Print, true},
     {"inspect", Command::Inspect, false}, {"drive", Command::Drive, false},
-    {"list", Command::List, false},
+    {"list", Command::List, false},       {"serve", Command::Serve, false},
 };
 
 constexpr unsigned bit(Command command) {
@@ -27,7 +27,7 @@ constexpr unsigned bit(Command command) {
 }
 constexpr unsigned kDialog = bit(Command::Dialog), kPrint = bit(Command::Print),
                    kInspect = bit(Command::Inspect), kDrive = bit(Command::Drive),
-                   kList = bit(Command::List);
+                   kList = bit(Command::List), kServe = bit(Command::Serve);
 
 /// An option: where its value goes, and the commands that take it.
 struct OptionRow {
@@ -42,8 +42,9 @@ const OptionRow kOptions[] = {
     {"--queue", kDialog | kPrint | kList, &CommandLine::queue, nullptr},
     {"--preset", kPrint, &CommandLine::preset, nullptr},
     {"--check", kInspect, &CommandLine::check, nullptr},
-    {"--bundle", kDialog | kPrint | kInspect | kDrive | kList, &CommandLine::bundle, nullptr},
-    {"--language", kDialog | kPrint | kInspect | kDrive, &CommandLine::language, nullptr},
+    {"--bundle", kDialog | kPrint | kInspect | kDrive | kList | kServe, &CommandLine::bundle,
+     nullptr},
+    {"--language", kDialog | kPrint | kInspect | kDrive | kServe, &CommandLine::language, nullptr},
     {"--to", kPrint, &CommandLine::to, nullptr},
     {"--ticket", kPrint, &CommandLine::ticket, nullptr},
     {"--summary", kPrint, &CommandLine::summary, nullptr},
@@ -164,6 +165,7 @@ QString usage() {
   pde-host inspect --ppd FILE [--bundle DIR]
   pde-host inspect --check FILE [--json] [--bundle DIR]
   pde-host drive   --ppd FILE [--bundle DIR] [-o KEY=CHOICE]... [--setting KEY=VALUE]...
+  pde-host serve   [--bundle DIR]
   pde-host list    [--bundle DIR]
   pde-host list    --presets [--queue NAME]
 
@@ -174,6 +176,8 @@ QString usage() {
   drive    obeys JSON commands from standard input, one to a line: open, state,
            summary, select, click, step, slide, type, mark, setting, willShow,
            restore, shouldPrint, save, print, help, shot, alert, close
+  serve    prints for programs, without a window: obeys JSON commands from standard
+           input, one to a line: list, queue, check, print, job, cancel
   list     prints the queues of CUPS, and which have the panel; or the presets
            that are kept for queues, or for one
 

@@ -7,7 +7,7 @@
 
 namespace host {
 
-enum class Command { Help, Dialog, Print, Inspect, Drive, List };
+enum class Command { Help, Dialog, Print, Inspect, Drive, List, Serve };
 
 /// What the user asked for. A text that wasn't given is null.
 struct CommandLine {

@@ -109,8 +109,8 @@ public:
     /// The text of a queue's PPD. @throw HostError without one
     QByteArray ppd(const QString &queue);
     /// Sends a job. One that can't be sent whole is cancelled, but not by a server that is stopped.
-    /// @param progress  called before each piece of the document, with the bytes that are sent; may
-    ///                  be empty
+    /// @param progress  called before each piece of the document, with the bytes that are sent; a
+    ///                  HostError of it gives the job up. May be empty
     /// @param created   told the job's number before the document is sent; may be empty
     /// @return the job's number
     int submit(const CupsJob &job, const std::function<void(qint64 sent)> &progress = {},

@@ -8,6 +8,7 @@
 #include "host/language.h"
 #include "host/presets/preset_commands.h"
 #include "host/print.h"
+#include "host/serve/serve.h"
 #include "platform/bundle.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@
 #include <cstdio>
 #include <optional>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -28,6 +30,17 @@ void complain(const QString &text) {
 
 QtMessageHandler formerHandler = nullptr;
 bool starting = true;
+
+/// A standard stream that is closed would lend its number to the next file that is opened. Reading
+/// from what is held instead ends at once, and writing fails as before.
+void holdStandardStreams() {
+    int fd = 0;
+    do
+        fd = open("/dev/null", O_RDONLY);
+    while (fd >= 0 && fd <= STDERR_FILENO);
+    if (fd >= 0)
+        close(fd);
+}
 
 /// Keeps Qt's remarks on the display off standard error, where a user's script reads; and turns its
 /// last word, for a display that can't be opened, into an end without a signal.
@@ -53,9 +66,10 @@ void choosePlatform(host::Command command) {
         return;
     }
     QByteArray platforms = "offscreen"; // Qt takes the first that it can open
-    if (x11)
+    const bool drawsNothing = command == host::Command::Serve; // and shall outlive any display
+    if (x11 && !drawsNothing)
         platforms.prepend("xcb;");
-    if (wayland)
+    if (wayland && !drawsNothing)
         platforms.prepend("wayland;");
     qputenv("QT_QPA_PLATFORM", platforms);
 }
@@ -105,6 +119,9 @@ int run(const host::CommandLine &line) {
     case Command::Drive:
         host::drive(line);
         break;
+    case Command::Serve:
+        host::serve(line);
+        break;
     case Command::List:
         if (line.presets)
             host::listPresets(line);
@@ -118,6 +135,7 @@ int run(const host::CommandLine &line) {
 } // namespace
 
 int main(int argc, char **argv) {
+    holdStandardStreams();
     std::signal(SIGPIPE, SIG_IGN); // a reader that is gone shows as a failed write
     try {
         const host::CommandLine line = host::parseCommandLine(programArguments(argc, argv));

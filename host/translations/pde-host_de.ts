@@ -849,6 +849,70 @@
         <source>“%1”: with several pages on a side the sides are counted, and the last one is %2.</source>
         <translation>„%1“: Bei mehreren Seiten je Blattseite zählen die Blattseiten, und die letzte ist %2.</translation>
     </message>
+    <message>
+        <source>“%1” can&apos;t have such a value.</source>
+        <translation>„%1“ kann einen solchen Wert nicht haben.</translation>
+    </message>
+    <message>
+        <source>This option takes no values of one&apos;s own.</source>
+        <translation>Diese Option nimmt keine eigenen Werte an.</translation>
+    </message>
+    <message>
+        <source>This option takes several values, each by its name.</source>
+        <translation>Diese Option nimmt mehrere Werte an, jeden mit seinem Namen.</translation>
+    </message>
+    <message>
+        <source>This option has no value of such a name.</source>
+        <translation>Diese Option hat keinen Wert dieses Namens.</translation>
+    </message>
+    <message>
+        <source>No answer came in time</source>
+        <translation>Es kam nicht rechtzeitig eine Antwort</translation>
+    </message>
+    <message>
+        <source>the server doesn&apos;t know it</source>
+        <translation>der Server kennt ihn nicht</translation>
+    </message>
+    <message>
+        <source>the job was cancelled</source>
+        <translation>der Auftrag wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t known whether the job was sent</source>
+        <translation>ob der Auftrag gesendet wurde, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t known whether the job was cancelled</source>
+        <translation>ob der Auftrag abgebrochen wurde, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>“%1” has no instance of this name</source>
+        <translation>„%1“ hat keine Instanz dieses Namens</translation>
+    </message>
+    <message>
+        <source>This option is given twice.</source>
+        <translation>Diese Option ist zweimal angegeben.</translation>
+    </message>
+    <message>
+        <source>This option has no such choice.</source>
+        <translation>Diese Option hat diese Auswahl nicht.</translation>
+    </message>
+    <message>
+        <source>This option can&apos;t have such a value.</source>
+        <translation>Diese Option kann einen solchen Wert nicht haben.</translation>
+    </message>
+    <message>
+        <source>This printer has no such option.</source>
+        <translation>Dieser Drucker hat eine solche Option nicht.</translation>
+    </message>
+    <message>
+        <source>This setting is locked.</source>
+        <translation>Diese Einstellung ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>only the last of its choices can be sent</source>
+        <translation>nur die letzte Auswahl kann gesendet werden</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

@@ -849,6 +849,70 @@
         <source>“%1”: with several pages on a side the sides are counted, and the last one is %2.</source>
         <translation>« %1 » : avec plusieurs pages par face, ce sont les faces qui comptent, et la dernière est %2.</translation>
     </message>
+    <message>
+        <source>“%1” can&apos;t have such a value.</source>
+        <translation>« %1 » ne peut pas avoir une telle valeur.</translation>
+    </message>
+    <message>
+        <source>This option takes no values of one&apos;s own.</source>
+        <translation>Cette option n’accepte pas de valeur personnelle.</translation>
+    </message>
+    <message>
+        <source>This option takes several values, each by its name.</source>
+        <translation>Cette option prend plusieurs valeurs, chacune par son nom.</translation>
+    </message>
+    <message>
+        <source>This option has no value of such a name.</source>
+        <translation>Cette option n’a pas de valeur de ce nom.</translation>
+    </message>
+    <message>
+        <source>No answer came in time</source>
+        <translation>Aucune réponse n’est arrivée à temps</translation>
+    </message>
+    <message>
+        <source>the server doesn&apos;t know it</source>
+        <translation>le serveur ne la connaît pas</translation>
+    </message>
+    <message>
+        <source>the job was cancelled</source>
+        <translation>la tâche a été annulée</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t known whether the job was sent</source>
+        <translation>on ne sait pas si la tâche a été envoyée</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t known whether the job was cancelled</source>
+        <translation>on ne sait pas si la tâche a été annulée</translation>
+    </message>
+    <message>
+        <source>“%1” has no instance of this name</source>
+        <translation>« %1 » n’a pas d’instance de ce nom</translation>
+    </message>
+    <message>
+        <source>This option is given twice.</source>
+        <translation>Cette option est donnée deux fois.</translation>
+    </message>
+    <message>
+        <source>This option has no such choice.</source>
+        <translation>Cette option n’a pas ce choix.</translation>
+    </message>
+    <message>
+        <source>This option can&apos;t have such a value.</source>
+        <translation>Cette option ne peut pas avoir une telle valeur.</translation>
+    </message>
+    <message>
+        <source>This printer has no such option.</source>
+        <translation>Cette imprimante n’a pas cette option.</translation>
+    </message>
+    <message>
+        <source>This setting is locked.</source>
+        <translation>Ce réglage est verrouillé.</translation>
+    </message>
+    <message>
+        <source>only the last of its choices can be sent</source>
+        <translation>seul le dernier de ses choix peut être envoyé</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

@@ -848,6 +848,70 @@
         <source>“%1”: with several pages on a side the sides are counted, and the last one is %2.</source>
         <translation>「%1」: 1面に複数のページがあるときは面を数えます。最後は%2です。</translation>
     </message>
+    <message>
+        <source>“%1” can&apos;t have such a value.</source>
+        <translation>「%1」にそのような値は指定できません。</translation>
+    </message>
+    <message>
+        <source>This option takes no values of one&apos;s own.</source>
+        <translation>このオプションでは独自の値を指定できません。</translation>
+    </message>
+    <message>
+        <source>This option takes several values, each by its name.</source>
+        <translation>このオプションには複数の値を名前で指定します。</translation>
+    </message>
+    <message>
+        <source>This option has no value of such a name.</source>
+        <translation>このオプションにその名前の値はありません。</translation>
+    </message>
+    <message>
+        <source>No answer came in time</source>
+        <translation>時間内に応答がありませんでした</translation>
+    </message>
+    <message>
+        <source>the server doesn&apos;t know it</source>
+        <translation>サーバーにありません</translation>
+    </message>
+    <message>
+        <source>the job was cancelled</source>
+        <translation>ジョブはキャンセルされました</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t known whether the job was sent</source>
+        <translation>ジョブが送信されたかどうかは不明です</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t known whether the job was cancelled</source>
+        <translation>ジョブが取り消されたかどうかは不明です</translation>
+    </message>
+    <message>
+        <source>“%1” has no instance of this name</source>
+        <translation>「%1」にこの名前のインスタンスはありません</translation>
+    </message>
+    <message>
+        <source>This option is given twice.</source>
+        <translation>このオプションは2回指定されています。</translation>
+    </message>
+    <message>
+        <source>This option has no such choice.</source>
+        <translation>このオプションにそのような選択肢はありません。</translation>
+    </message>
+    <message>
+        <source>This option can&apos;t have such a value.</source>
+        <translation>このオプションにそのような値は指定できません。</translation>
+    </message>
+    <message>
+        <source>This printer has no such option.</source>
+        <translation>このプリンターにそのようなオプションはありません。</translation>
+    </message>
+    <message>
+        <source>This setting is locked.</source>
+        <translation>この設定はロックされています。</translation>
+    </message>
+    <message>
+        <source>only the last of its choices can be sent</source>
+        <translation>送信できるのは最後の選択肢だけです</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

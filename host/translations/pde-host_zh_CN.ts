@@ -848,6 +848,70 @@
         <source>“%1”: with several pages on a side the sides are counted, and the last one is %2.</source>
         <translation>“%1”：每面有多页时按面计数，最后一面是 %2。</translation>
     </message>
+    <message>
+        <source>“%1” can&apos;t have such a value.</source>
+        <translation>“%1”不能有这样的值。</translation>
+    </message>
+    <message>
+        <source>This option takes no values of one&apos;s own.</source>
+        <translation>此选项不接受自定义值。</translation>
+    </message>
+    <message>
+        <source>This option takes several values, each by its name.</source>
+        <translation>此选项有多个值，须按名称给出。</translation>
+    </message>
+    <message>
+        <source>This option has no value of such a name.</source>
+        <translation>此选项没有此名称的值。</translation>
+    </message>
+    <message>
+        <source>No answer came in time</source>
+        <translation>没有及时收到回应</translation>
+    </message>
+    <message>
+        <source>the server doesn&apos;t know it</source>
+        <translation>服务器上没有该作业</translation>
+    </message>
+    <message>
+        <source>the job was cancelled</source>
+        <translation>作业已取消</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t known whether the job was sent</source>
+        <translation>不知道作业是否已发送</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t known whether the job was cancelled</source>
+        <translation>不知道作业是否已取消</translation>
+    </message>
+    <message>
+        <source>“%1” has no instance of this name</source>
+        <translation>“%1”没有此名称的实例</translation>
+    </message>
+    <message>
+        <source>This option is given twice.</source>
+        <translation>此选项给出了两次。</translation>
+    </message>
+    <message>
+        <source>This option has no such choice.</source>
+        <translation>此选项没有这样的选择。</translation>
+    </message>
+    <message>
+        <source>This option can&apos;t have such a value.</source>
+        <translation>此选项不能有这样的值。</translation>
+    </message>
+    <message>
+        <source>This printer has no such option.</source>
+        <translation>此打印机没有这样的选项。</translation>
+    </message>
+    <message>
+        <source>This setting is locked.</source>
+        <translation>此设置已锁定。</translation>
+    </message>
+    <message>
+        <source>only the last of its choices can be sent</source>
+        <translation>只能发送其最后一个选择</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>
