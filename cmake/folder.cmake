@@ -13,3 +13,26 @@ function(panel_folder name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${ARG_LINK})
 endfunction()
+
+# Compiles the folder's translations/*.ts into the target, as ":/translations/<name>.qm".
+#
+# panel_translations(TARGET)
+function(panel_translations target)
+  file(GLOB tables RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS translations/*.ts)
+  set(compiled)
+  foreach(table IN LISTS tables)
+    get_filename_component(name ${table} NAME_WLE)
+    set(out ${CMAKE_CURRENT_BINARY_DIR}/translations/${name}.qm)
+    add_custom_command(
+      OUTPUT ${out}
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_CURRENT_BINARY_DIR}/translations
+      COMMAND Qt6::lrelease -silent ${CMAKE_CURRENT_SOURCE_DIR}/${table} -qm ${out}
+      DEPENDS ${table}
+      COMMENT "Translations: ${name}.qm"
+      VERBATIM)
+    list(APPEND compiled ${out})
+  endforeach()
+  string(MAKE_C_IDENTIFIER ${target} resource)
+  qt_add_resources(${target} ${resource}_translations PREFIX / BASE ${CMAKE_CURRENT_BINARY_DIR}
+                   FILES ${compiled})
+endfunction()

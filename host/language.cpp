@@ -6,9 +6,8 @@
 #include <QLibraryInfo>
 
 namespace host {
-namespace {
 
-void install(QTranslator &translator, const QString &name, const QString &folder) {
+void installTable(QTranslator &translator, const QString &name, const QString &folder) {
     for (const QString &language : Bundle::languages())
         if (translator.load(name + language, folder)) {
             QCoreApplication::installTranslator(&translator);
@@ -18,11 +17,10 @@ void install(QTranslator &translator, const QString &name, const QString &folder
         }
 }
 
-} // namespace
-
 Language::Language() {
-    install(m_qt, QStringLiteral("qtbase_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install(m_own, QStringLiteral("pde-host_"), QStringLiteral(":/translations"));
+    installTable(m_qt, QStringLiteral("qtbase_"),
+                 QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    installTable(m_own, QStringLiteral("pde-host_"), QStringLiteral(":/translations"));
 }
 
 } // namespace host

@@ -3,6 +3,7 @@
 #include "host/conflicts/conflict_line.h"
 #include "host/dialog/file_printer.h"
 #include "host/dialog/job_page.h"
+#include "host/dialog/page_area.h"
 #include "host/dialog/plain_label.h"
 #include "host/dialog/queue_job.h"
 #include "host/dialog/summary_page.h"
@@ -24,8 +25,6 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -39,32 +38,6 @@ namespace {
 constexpr qsizetype kMostPpds = 20;
 
 enum Tab { kGeneralTab, kPanelTab, kSummaryTab };
-
-/// A page of the tabs, which scrolls up and down where the screen leaves it too little room.
-class PageArea : public QScrollArea {
-public:
-    explicit PageArea(QWidget *page) {
-        setFrameShape(QFrame::NoFrame);
-        setWidgetResizable(true);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setWidget(page);
-        setFocusPolicy(Qt::NoFocus);
-    }
-    QSize sizeHint() const override { return grown(widget()->sizeHint()); }
-    QSize minimumSizeHint() const override {
-        return {grown(widget()->minimumSizeHint()).width(), fontMetrics().height() * 12};
-    }
-    bool eventFilter(QObject *watched, QEvent *event) override {
-        if (watched == widget() && event->type() == QEvent::LayoutRequest)
-            updateGeometry();
-        return QScrollArea::eventFilter(watched, event);
-    }
-
-private:
-    QSize grown(QSize size) const {
-        return size + QSize(verticalScrollBar()->sizeHint().width(), 0);
-    }
-};
 
 } // namespace
 

@@ -166,3 +166,6 @@ void QueueDirectory::askNextPpd() {
 }
 
 } // namespace host
+
+// Of its own, so that what links this object takes no other class along.
+#include "moc_queue_directory.cpp" // NOLINT(bugprone-suspicious-include)
