@@ -10,7 +10,6 @@
 #include <atomic>
 #include <cerrno>
 #include <cstring>
-#include <exception>
 
 namespace host {
 namespace {
@@ -354,16 +353,28 @@ int CupsServer::submit(const CupsJob &job, const std::function<void(qint64)> &pr
         created(id);
     try {
         sendDocument(job, id, progress);
-    } catch (const HostError &) {
-        const std::exception_ptr reason = std::current_exception();
-        try {
-            if (!m_watch.isStopped() && reconnect()) // the server may wait for the rest on this one
-                cancelJob(id);
-        } catch (const HostError &) { // what came first is what counts
-        }
-        std::rethrow_exception(reason);
+    } catch (const HostError &error) {
+        if (m_watch.isStopped() || undo(id))
+            throw;
+        throw HostError(HostWords::tr("job %1").arg(id),
+                        HostWords::tr("%1; it couldn't be cancelled, and may still be printed")
+                            .arg(error.text()));
     }
     return id;
+}
+
+bool CupsServer::undo(int job) {
+    { // the server may still wait for the rest on this connection
+        const CupsWatch::Span span(m_watch, m_http.get(), m_deadlines.wholeSeconds);
+        if (!reconnect())
+            return false;
+    }
+    try {
+        cancelJob(job);
+    } catch (const HostError &) {
+        return false;
+    }
+    return true;
 }
 
 void CupsServer::sendDocument(const CupsJob &job, int id,

@@ -108,7 +108,8 @@ public:
     QByteArray findPpd(const QString &queue);
     /// The text of a queue's PPD. @throw HostError without one
     QByteArray ppd(const QString &queue);
-    /// Sends a job. One that can't be sent whole is cancelled, but not by a server that is stopped.
+    /// Sends a job. One that can't be sent whole is cancelled, but not by a server that is stopped;
+    /// the error says so where that fails.
     /// @param progress  called before each piece of the document, with the bytes that are sent; a
     ///                  HostError of it gives the job up. May be empty
     /// @param created   told the job's number before the document is sent; may be empty
@@ -130,6 +131,8 @@ private:
     bool reconnect();
     QByteArray readBody(const QString &queue);
     int createJob(const CupsJob &job);
+    /// Cancels a job that couldn't be sent whole. @return whether the server has done so
+    bool undo(int job);
     void sendDocument(const CupsJob &job, int id, const std::function<void(qint64)> &progress);
     const char *answerPrompt(const char *prompt);
     /// Sends a request, which it takes, and waits for the reply. @throw HostError without one

@@ -31,6 +31,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace host {
 namespace {
 
@@ -38,6 +40,18 @@ namespace {
 constexpr qsizetype kMostPpds = 20;
 
 enum Tab { kGeneralTab, kPanelTab, kSummaryTab };
+
+/// Whether a key does something to a view; others lead away from it, or wait for more.
+bool isAct(const QKeyEvent &key) {
+    if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return false;
+    constexpr int kActs[] = {Qt::Key_Up,       Qt::Key_Down,   Qt::Key_Left,   Qt::Key_Right,
+                             Qt::Key_Home,     Qt::Key_End,    Qt::Key_PageUp, Qt::Key_PageDown,
+                             Qt::Key_F4,       Qt::Key_Return, Qt::Key_Enter,  Qt::Key_Delete,
+                             Qt::Key_Backspace};
+    return std::find(std::begin(kActs), std::end(kActs), key.key()) != std::end(kActs) ||
+           (!key.text().isEmpty() && key.text().at(0).isPrint());
+}
 
 } // namespace
 
@@ -257,15 +271,12 @@ bool PrintDialog::eventFilter(QObject *watched, QEvent *event) {
                 list->isAncestorOf(widget) || m_panelHome->parentWidget()->isAncestorOf(widget));
     };
     switch (event->type()) {
-    case QEvent::KeyPress: {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
+    case QEvent::KeyPress:
+        if (!isAct(*static_cast<QKeyEvent *>(event)))
             break;
         [[fallthrough]];
-    }
     case QEvent::MouseButtonPress:
     case QEvent::TouchBegin:
-    case QEvent::Wheel:
     case QEvent::Shortcut:
         if (isOfSettings())
             pick();

@@ -149,8 +149,15 @@ void CommonSettings::setSettings(JobSettings *settings, const ConflictReason &co
                                m_settings ? m_settings->key(list.setting) : QString());
     }
     m_pages->clear();
-    if (m_settings)
+    if (m_settings) {
         m_pages->setText(m_settings->value(Setting::Pages));
+        if (const QString typed = m_settings->refusedPages(); !typed.isNull()) {
+            const QScopedValueRollback<bool> showing(m_showing, true);
+            m_pages->setText(typed);
+            m_somePages->setChecked(true);
+            m_pagesProblem = typedPages().problem;
+        }
+    }
     refresh();
 }
 
@@ -210,8 +217,12 @@ void CommonSettings::judgePages() {
     if (m_somePages->isChecked())
         ranges = typedPages();
     m_pagesProblem = ranges.problem;
-    // Of what can't be read nothing holds, not even its beginning.
-    m_settings->setValue(Setting::Pages, ranges.problem.isNull() ? ranges.value : QString());
+    // Ranges that this document lacks stand, though they can't be printed: another may have them.
+    // Of what can't be read nothing stands, not even its beginning.
+    const bool isRefused = !m_pagesProblem.isNull();
+    m_settings->setRefusedPages(isRefused ? m_pages->text() : QString());
+    m_settings->setValue(Setting::Pages,
+                         isRefused ? readPageRanges(m_pages->text()).value : ranges.value);
     showPagesProblem(m_pagesProblem);
 }
 

@@ -79,6 +79,10 @@ public:
 
     int copies() const { return value(Setting::Copies).toInt(); }
     bool isCollated() const;
+    /// Page ranges as they were typed, where they can't be printed; null else. What can be read of
+    /// them is the value of Setting::Pages.
+    const QString &refusedPages() const { return m_refusedPages; }
+    void setRefusedPages(const QString &typed) { m_refusedPages = typed; }
     bool setCollated(bool collated);
 
     /// Takes options that came from elsewhere (a preset, the person's defaults, a command line):
@@ -100,6 +104,7 @@ private:
 
     ppd_file_t *m_ppd;
     OptionList m_serverDefaults;
+    QString m_refusedPages;
     OptionList m_userDefaults;
     QMap<Setting, QString> m_values; ///< those whose home is CUPS
     bool m_toFile = false;

@@ -913,6 +913,10 @@
         <source>only the last of its choices can be sent</source>
         <translation>nur die letzte Auswahl kann gesendet werden</translation>
     </message>
+    <message>
+        <source>%1; it couldn&apos;t be cancelled, and may still be printed</source>
+        <translation>%1; er konnte nicht abgebrochen werden und wird vielleicht noch gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

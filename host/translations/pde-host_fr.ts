@@ -913,6 +913,10 @@
         <source>only the last of its choices can be sent</source>
         <translation>seul le dernier de ses choix peut être envoyé</translation>
     </message>
+    <message>
+        <source>%1; it couldn&apos;t be cancelled, and may still be printed</source>
+        <translation>%1 ; elle n’a pas pu être annulée et sera peut-être encore imprimée</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

@@ -912,6 +912,10 @@
         <source>only the last of its choices can be sent</source>
         <translation>送信できるのは最後の選択肢だけです</translation>
     </message>
+    <message>
+        <source>%1; it couldn&apos;t be cancelled, and may still be printed</source>
+        <translation>%1。キャンセルできなかったため、印刷される可能性があります</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

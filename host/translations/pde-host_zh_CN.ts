@@ -912,6 +912,10 @@
         <source>only the last of its choices can be sent</source>
         <translation>只能发送其最后一个选择</translation>
     </message>
+    <message>
+        <source>%1; it couldn&apos;t be cancelled, and may still be printed</source>
+        <translation>%1；无法取消，它可能仍会被打印</translation>
+    </message>
 </context>
 <context>
     <name>host::CommonSettings</name>

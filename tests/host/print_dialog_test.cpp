@@ -215,6 +215,7 @@ TEST(PrintDialog, AnAnswerThatIsLateTakesNothingAway) {
         const QTemporaryDir folder;
         host::PrintDialog dialog(setupFor(folder));
         dialog.show();
+        QTest::keyClick(find<QListView>(dialog, "queueList"), Qt::Key_Shift); // leads nowhere
         if (acts)
             QTest::keyClick(find<QComboBox>(dialog, "paperSize"), Qt::Key_Up);
         const auto *list = find<QListView>(dialog, "queueList");

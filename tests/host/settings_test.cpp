@@ -212,6 +212,14 @@ TEST(CommonSettings, MarksWhatAPersonChoosesAndGreysTheRest) {
     EXPECT_TRUE(widget.problem().contains("the last one is 2"));
     pick("numberUp", "1");
     EXPECT_TRUE(widget.problem().contains("only 5 pages"));
+    EXPECT_EQ(job.value(host::Setting::Pages), "1-7");
+    pages->setText("1,x");
+    emit pages->textEdited("1,x");
+    EXPECT_EQ(job.value(host::Setting::Pages), QString());
+    widget.setSettings(nullptr); // to another printer and back
+    widget.setSettings(&job);
+    EXPECT_EQ(pages->text(), "1,x");
+    EXPECT_FALSE(widget.problem().isNull());
     widget.findChild<QRadioButton *>("allPages")->click();
 
     markChoice(ppd.get(), "EFDuplex", "None"); // by another panel
