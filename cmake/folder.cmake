@@ -14,6 +14,21 @@ function(panel_folder name)
   target_link_libraries(${name} PUBLIC ${ARG_LINK})
 endfunction()
 
+# Compiles a table of the folder's words, FILE.ts.
+#
+# compile_words(FILE OUT)
+function(compile_words file out)
+  get_filename_component(name ${out} NAME)
+  get_filename_component(home ${out} DIRECTORY)
+  add_custom_command(
+    OUTPUT ${out}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${home}
+    COMMAND Qt6::lrelease -silent ${CMAKE_CURRENT_SOURCE_DIR}/${file} -qm ${out}
+    DEPENDS ${file}
+    COMMENT "Words: ${name}"
+    VERBATIM)
+endfunction()
+
 # Compiles the folder's translations/*.ts into the target, as ":/translations/<name>.qm".
 #
 # panel_translations(TARGET)
@@ -23,13 +38,7 @@ function(panel_translations target)
   foreach(table IN LISTS tables)
     get_filename_component(name ${table} NAME_WLE)
     set(out ${CMAKE_CURRENT_BINARY_DIR}/translations/${name}.qm)
-    add_custom_command(
-      OUTPUT ${out}
-      COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_CURRENT_BINARY_DIR}/translations
-      COMMAND Qt6::lrelease -silent ${CMAKE_CURRENT_SOURCE_DIR}/${table} -qm ${out}
-      DEPENDS ${table}
-      COMMENT "Translations: ${name}.qm"
-      VERBATIM)
+    compile_words(${table} ${out})
     list(APPEND compiled ${out})
   endforeach()
   string(MAKE_C_IDENTIFIER ${target} resource)

@@ -60,7 +60,6 @@ PasswordSource JobSender::passwordFromHere(std::function<bool()> stop) {
 }
 
 void JobSender::send(const CupsJob &job) {
-    m_queue = job.queue;
     m_total = job.document.size();
     m_timer.start(kProgressMs);
     // The server may be slow, so a job that is given up is cancelled when nobody waits for it.

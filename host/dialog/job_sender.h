@@ -63,7 +63,6 @@ private:
     PasswordSource m_askPassword;
     std::shared_ptr<Shared> m_shared = std::make_shared<Shared>();
     QTimer m_timer;
-    QString m_queue;
     qint64 m_total = 0;
     int m_job = 0;
     bool m_asking = false; ///< a question about the state is on its way

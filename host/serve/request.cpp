@@ -70,7 +70,7 @@ struct MemberRow {
 
 constexpr MemberRow kMembers[] = {
     {"seconds", Type::Seconds, "list queue check print job cancel", ""},
-    {"queue", Type::Text, "queue check print cancel", "queue check print cancel"},
+    {"queue", Type::Text, "queue check print", "queue check print"},
     {"preset", Type::Text, "queue check print", ""},
     {"instance", Type::Text, "queue check print", ""},
     {"choices", Type::Object, "queue check print", ""},

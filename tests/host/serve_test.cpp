@@ -224,9 +224,9 @@ TEST_F(ServeTest, TellsChecksPrintsAndFollows) {
             {R"({"do":"job","job":3,"wait":"change","seconds":0.3})", {{"changed", "false"}}},
             {R"({"do":"job","job":3,"wait":"change","known":"pending","seconds":50})",
              {{"changed", "true"}, {"state", R"("pending-held")"}}},
-            {R"({"do":"cancel","queue":"Queue","job":3,"seconds":20})", {{"ok", "true"}}},
+            {R"({"do":"cancel","job":3,"seconds":20})", {{"ok", "true"}}},
             {R"({"do":"job","job":3,"wait":"finished"})", {{"state", R"("canceled")"}}},
-            {R"({"do":"cancel","queue":"Queue","job":3})", {{"ok", "false"}}},
+            {R"({"do":"cancel","job":3})", {{"ok", "false"}}},
             {R"({"do":"job","job":999})", {{"ok", "false"}}},
             {R"({"do":"print","queue":"Plain","document":"good.ps"})", {{"ok", "false"}}},
             // A PIN that isn't said to be a value of one's own, one that doesn't fit, and none.
